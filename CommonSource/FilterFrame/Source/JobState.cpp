@@ -1,0 +1,36 @@
+#include "JobState.h"
+
+#include <cstdlib>
+
+char StdUserName[kUserNameSize];
+char StdJBAUserName[kJBAUserNameSize];
+char StdDocumentName[kDocumentNameSize];
+char PTStdDocumentName[kDocumentNameSize];
+
+char StdNUpInfo[kLayoutTextSize];
+char StdLayoutInfo[kLayoutTextSize];
+char StdLayoutDirectionInfo[kLayoutTextSize];
+char StdLayoutRowInfo[kLayoutTextSize];
+char StdLayoutColumnInfo[kLayoutTextSize];
+char StdPaperInfoRectOriginXKey[kLayoutTextSize];
+char StdPaperInfoRectOriginYKey[kLayoutTextSize];
+char StdPaperInfoRectHeightKey[kLayoutTextSize];
+char StdPaperInfoRectWidthKey[kLayoutTextSize];
+char StdAdobePaperInfoRectOriginXKey[kLayoutTextSize];
+char StdAdobePaperInfoRectOriginYKey[kLayoutTextSize];
+char StdAdobePaperInfoRectHeightKey[kLayoutTextSize];
+char StdAdobePaperInfoRectWidthKey[kLayoutTextSize];
+
+char HostNameStr[kHostNameSize];
+char IPAddressStr[kIPAddressSize];
+
+const char defaultUserName[12] = "UnknownUser";
+
+bool UTF8Mode = false;
+
+int32_t LayoutCount()
+{
+    const uint32_t rows = static_cast<uint32_t>(atoi(StdLayoutRowInfo));
+    const uint32_t columns = static_cast<uint32_t>(atoi(StdLayoutColumnInfo));
+    return static_cast<int32_t>(rows * columns);
+}
