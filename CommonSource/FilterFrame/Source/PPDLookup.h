@@ -1,0 +1,40 @@
+// PPDLookup: the queue's PPD and every question about it.
+// The file is parsed once a job, at the first question; one that can't be read answers everything with "absent".
+#pragma once
+
+#include <cups/ppd.h>
+
+#include <cstdint>
+
+// The attribute that names the printer's language encoding; "UTF-8" puts the job in UTF-8 mode.
+extern const char KPPDCharEncoding[];
+
+// The open PPD of the queue that the environment variable PPD names; null when there is none.
+ppd_file_t *JobPPD();
+
+// Closes it; the next question opens the file again.
+void CloseJobPPD();
+
+// The first attribute, in file order, whose name begins with `name`; null when there is none.
+const ppd_attr_t *ppdFindAttr_ALT(const ppd_file_t *ppd, const char *name);
+
+// 1 when that attribute exists and its value contains `text`, else 0.
+int32_t CheckIfPPDKeywordSupported(const ppd_file_t *ppd, const char *keyword, const char *text);
+
+// The value of that attribute of the queue's PPD; null when it is absent.
+const char *PPDAttributeValue(const char *name);
+
+// Whether that value is exactly `value`.
+bool PPDAttributeIs(const char *name, const char *value);
+
+// Whether the queue's PPD defines the option.
+bool PPDHasOption(const char *keyword);
+
+// The size of a page of the queue's PPD, in points. Returns false, with both 0, when the PPD doesn't define it.
+bool PPDPageSizeInPoints(const char *name, float &width, float &length);
+
+// 1 for a colour printer, else 0.
+int32_t IsColorDeivce();
+
+// 1 when the default of the option OVColorMode is colour, else 0.
+int32_t getDefaultColorMode();

@@ -1,0 +1,15 @@
+// PasswordTicket: the getter that turns a stored password into one that only the printer can read.
+#pragma once
+
+#include <cups/cups.h>
+
+#include <cstdint>
+
+// Size of a field that takes an encrypted password: base64 of a blob of up to 609 bytes needs 812 characters.
+constexpr int32_t kEncryptedPasswordSize = 2048;
+
+// Decrypts the stored password and encrypts it for the printer, as base64. A text that is valid base64 but no stored
+// password stays as it is. Returns 1 when the destination holds a value, 0, with the destination all zero, when the
+// ticket counts as absent.
+int32_t GetTicketPasswordStringConvertedToEncryption(const char *key, int32_t optionCount, cups_option_t *options,
+                                                     void *destination, int32_t size);

@@ -1,0 +1,77 @@
+// TicketReader: the settings among the job's options, read into plain records.
+// A module lists what it reads as rows of key, destination, size and getter; an absent ticket leaves the getter's
+// absent value.
+#pragma once
+
+#include <cups/cups.h>
+
+#include <cstdint>
+
+// Returns 1 when the key was present, 0 when absent, unless the getter says otherwise.
+using TicketGetter = int32_t (*)(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
+                                 int32_t size);
+
+// key: the option's name.
+// destination: a field of a module's record or a shared buffer.
+// size: the destination's size in bytes, a text's NUL included.
+// getter: how the value is read.
+struct ticketData {
+    const char *key;
+    void *destination;
+    int32_t size;
+    TicketGetter getter;
+};
+
+// Ticket keys that more than one module reads.
+extern const char kNumberUpTicketKey[];
+extern const char kLayoutDirectionTicketKey[];
+extern const char kQBPunchHoleTicketKey[];
+
+// The job's options (argument 5), parsed once a job.
+struct JobOptions {
+    int32_t count;
+    cups_option_t *list;
+};
+JobOptions OptionsOfJob(const char *const *argv);
+
+// Reads every row, in order; returns 1.
+int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int32_t count);
+
+// Decodes, in place, a text that is a list of decimal byte values, each preceded by "/"; any other text is left as it
+// is. `size` is the buffer's.
+void numstrtochar(char *text, int32_t size);
+
+// int32: atoi of the value, -1 when absent.
+int32_t GetTicketInteger(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size);
+
+// float: atof of the value, -1.0 when absent.
+int32_t GetTicketFloat(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size);
+
+// int32: 1 when the ticket is absent, 0 when present. Returns 1.
+int32_t CheckTicketKey(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size);
+
+// Text in the printer's legacy encoding, without decoding of byte values; all zero when absent.
+int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size);
+
+// Text in the printer's legacy encoding or, ForUTF8, in UTF-8; byte values are decoded. All zero when absent.
+int32_t GetTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
+                                          void *destination, int32_t size);
+int32_t GetTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
+                                                 void *destination, int32_t size);
+
+// The same; return the length of the converted text, 0 when absent.
+int32_t GetLengthOfTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
+                                                  void *destination, int32_t size);
+int32_t GetLengthOfTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
+                                                         void *destination, int32_t size);
+
+// Text in parentheses, in the encoding of the queue's PPD.
+int32_t GetTicketStringConvertedToPPDEncodingString(const char *key, int32_t optionCount, cups_option_t *options,
+                                                    void *destination, int32_t size);
+
+// Pages per sheet: the option's text or, when it is absent, the count that the layout buffers give (empty for 0, at
+// most its last two digits). The first puts "N" before it, save before an absent option's 1. Return 1.
+int32_t GetNumberUpTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
+                                int32_t size);
+int32_t GetNumberUpTicketStringForComment(const char *key, int32_t optionCount, cups_option_t *options,
+                                          void *destination, int32_t size);
