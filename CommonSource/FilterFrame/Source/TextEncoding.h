@@ -4,7 +4,9 @@
 
 #include "PPDLookup.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 // Encoding numbers of the PPD converter.
 constexpr uint32_t kCFStringEncodingUTF8 = 0x08000100;
@@ -26,3 +28,6 @@ uint32_t GetCFStringSimEncodingFromPPD(const ppd_file_t *ppd);
 
 // True when the text holds a character that Shift-JIS can't carry.
 bool checkIfCharacterIsMultibyte(const char *text);
+
+// The bytes that the first `units` UTF-16 units of valid UTF-8 text take; half of a surrogate pair takes none.
+size_t UTF8BytesOfUnits(std::string_view text, size_t units);

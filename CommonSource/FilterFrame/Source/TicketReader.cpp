@@ -1,0 +1,167 @@
+#include "TicketReader.h"
+
+#include "BoundedText.h"
+#include "JobState.h"
+#include "PPDLookup.h"
+#include "TextEncoding.h"
+#include "UtilityFunctionFilter.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+const char kNumberUpTicketKey[] = "number-up";
+const char kLayoutDirectionTicketKey[] = "com.apple.print.PrintSettings.PMLayoutDirection..n.";
+const char kQBPunchHoleTicketKey[] = "OVNumPunchHoles";
+
+// Size of the buffer in which a text is decoded, its NUL included; a longer value is cut.
+constexpr size_t kTicketTextSize = 1024;
+
+// Position of the options among the filter's arguments.
+constexpr int kOptionsArgument = 5;
+
+using TextConverter = int32_t (*)(const char *source, char *destination, int32_t size);
+
+JobOptions OptionsOfJob(const char *const *argv) {
+    static std::string parsed;
+    static JobOptions options;
+    const char *text = argv[kOptionsArgument] ? argv[kOptionsArgument] : "";
+    if (parsed != text) {
+        cupsFreeOptions(options.count, options.list);
+        options.list = nullptr;
+        options.count = cupsParseOptions(text, 0, &options.list);
+        parsed = text;
+    }
+    return options;
+}
+
+int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int32_t count) {
+    const JobOptions options = OptionsOfJob(argv);
+    for (int32_t i = 0; i < count; i++)
+        table[i].getter(table[i].key, options.count, options.list, table[i].destination, table[i].size);
+    return 1;
+}
+
+void numstrtochar(char *text, int32_t size) {
+    if (size <= 0)
+        return;
+    const size_t capacity = static_cast<size_t>(size);
+    const size_t length = strnlen(text, capacity);
+    if (length < 2 || length == capacity || text[0] != '/')
+        return;
+    size_t write = 0;
+    for (size_t read = 1; read < length;) {
+        const size_t end = read + strcspn(text + read, "/");
+        text[end] = '\0';
+        const int value = atoi(text + read);
+        text[write++] = value >= 256 ? '\0' : static_cast<char>(value);
+        text[write] = '\0';
+        read = end + 1;
+    }
+}
+
+int32_t GetTicketInteger(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t) {
+    const char *value = cupsGetOption(key, optionCount, options);
+    *static_cast<int32_t *>(destination) = value ? atoi(value) : -1;
+    return value != nullptr;
+}
+
+int32_t GetTicketFloat(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t) {
+    const char *value = cupsGetOption(key, optionCount, options);
+    *static_cast<float *>(destination) = value ? static_cast<float>(atof(value)) : -1.0f;
+    return value != nullptr;
+}
+
+int32_t CheckTicketKey(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t) {
+    *static_cast<int32_t *>(destination) = cupsGetOption(key, optionCount, options) == nullptr;
+    return 1;
+}
+
+// The text of a ticket; null, with the destination all zero, when it is absent.
+static const char *TextOrZero(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
+                              int32_t size) {
+    const char *value = cupsGetOption(key, optionCount, options);
+    if (!value && size > 0)
+        memset(destination, 0, static_cast<size_t>(size));
+    return value;
+}
+
+static int32_t DecodeAndConvert(const char *value, void *destination, int32_t size, TextConverter convert) {
+    char text[kTicketTextSize];
+    CopyCut(text, value);
+    numstrtochar(text, sizeof text);
+    return convert(text, static_cast<char *>(destination), size);
+}
+
+int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size) {
+    const char *value = TextOrZero(key, optionCount, options, destination, size);
+    if (value)
+        ConvertUTF8ToEncoding(value, static_cast<char *>(destination), size);
+    return value != nullptr;
+}
+
+int32_t GetTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
+                                          void *destination, int32_t size) {
+    const char *value = TextOrZero(key, optionCount, options, destination, size);
+    if (value)
+        DecodeAndConvert(value, destination, size, ConvertUTF8ToEncoding);
+    return value != nullptr;
+}
+
+int32_t GetTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
+                                                 void *destination, int32_t size) {
+    const char *value = TextOrZero(key, optionCount, options, destination, size);
+    if (value)
+        DecodeAndConvert(value, destination, size, ConvertUTF8ToEncodingForUTF8);
+    return value != nullptr;
+}
+
+int32_t GetLengthOfTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
+                                                  void *destination, int32_t size) {
+    const char *value = TextOrZero(key, optionCount, options, destination, size);
+    return value ? DecodeAndConvert(value, destination, size, ConvertUTF8ToEncoding) : 0;
+}
+
+int32_t GetLengthOfTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
+                                                         void *destination, int32_t size) {
+    const char *value = TextOrZero(key, optionCount, options, destination, size);
+    return value ? DecodeAndConvert(value, destination, size, ConvertUTF8ToEncodingForUTF8) : 0;
+}
+
+static int32_t ConvertToQueueEncoding(const char *source, char *destination, int32_t size) {
+    return ConvertUTF8ToPPDEncoding(source, destination, size, GetCFStringSimEncodingFromPPD(JobPPD()));
+}
+
+int32_t GetTicketStringConvertedToPPDEncodingString(const char *key, int32_t optionCount, cups_option_t *options,
+                                                    void *destination, int32_t size) {
+    const char *value = TextOrZero(key, optionCount, options, destination, size);
+    if (value)
+        DecodeAndConvert(value, destination, size, ConvertToQueueEncoding);
+    return value != nullptr;
+}
+
+static int32_t NumberUp(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size,
+                        const char *prefix) {
+    const char *value = cupsGetOption(key, optionCount, options);
+    char digits[3];
+    if (!value) {
+        const int32_t count = LayoutCount();
+        value = itoa(count, digits, sizeof digits);
+        if (count == 1 || !*value)
+            prefix = "";
+    }
+    char text[kTicketTextSize];
+    FormatCut(text, "%s%s", prefix, value);
+    DecodeAndConvert(text, destination, size, ConvertUTF8ToEncoding);
+    return 1;
+}
+
+int32_t GetNumberUpTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
+                                int32_t size) {
+    return NumberUp(key, optionCount, options, destination, size, "N");
+}
+
+int32_t GetNumberUpTicketStringForComment(const char *key, int32_t optionCount, cups_option_t *options,
+                                          void *destination, int32_t size) {
+    return NumberUp(key, optionCount, options, destination, size, "");
+}
