@@ -1,6 +1,8 @@
 #include "JobState.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <span>
 
 char StdUserName[kUserNameSize];
 char StdJBAUserName[kJBAUserNameSize];
@@ -27,6 +29,37 @@ char IPAddressStr[kIPAddressSize];
 const char defaultUserName[12] = "UnknownUser";
 
 bool UTF8Mode = false;
+
+volatile sig_atomic_t CancelJob = 0;
+volatile sig_atomic_t CancelJobForPipe = 0;
+
+static const std::span<char> jobBuffers[] = {
+    StdUserName,
+    StdJBAUserName,
+    StdDocumentName,
+    PTStdDocumentName,
+    StdNUpInfo,
+    StdLayoutInfo,
+    StdLayoutDirectionInfo,
+    StdLayoutRowInfo,
+    StdLayoutColumnInfo,
+    StdPaperInfoRectOriginXKey,
+    StdPaperInfoRectOriginYKey,
+    StdPaperInfoRectHeightKey,
+    StdPaperInfoRectWidthKey,
+    StdAdobePaperInfoRectOriginXKey,
+    StdAdobePaperInfoRectOriginYKey,
+    StdAdobePaperInfoRectHeightKey,
+    StdAdobePaperInfoRectWidthKey,
+    HostNameStr,
+    IPAddressStr,
+};
+
+void ClearJobState()
+{
+    for (std::span<char> buffer : jobBuffers)
+        std::ranges::fill(buffer, '\0');
+}
 
 int32_t LayoutCount()
 {

@@ -2,6 +2,7 @@
 // Filled at start and by the tickets, only read afterwards.
 #pragma once
 
+#include <csignal>
 #include <cstddef>
 #include <cstdint>
 
@@ -41,6 +42,13 @@ extern const char defaultUserName[12];
 
 // The job's texts go to the printer as UTF-8, otherwise as Shift-JIS.
 extern bool UTF8Mode;
+
+// Set by the signal handlers: the job was cancelled, and the output pipe broke.
+extern volatile sig_atomic_t CancelJob;
+extern volatile sig_atomic_t CancelJobForPipe;
+
+// Empties every buffer above.
+void ClearJobState();
 
 // Pages on one sheet by the layout buffers, rows times columns; a text that is no number counts as 0. The product is
 // taken in 32 bits.

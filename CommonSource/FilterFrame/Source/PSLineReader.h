@@ -1,0 +1,81 @@
+// PSLineReader: the lines of a PostScript document, the marker lines among them, and their copy to the way out.
+// Reads large blocks and writes them as they lie; the rules are those of a byte-wise reader with an 8192-byte line
+// buffer.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <string_view>
+
+// A line ends at a CR or LF, each by itself. One that holds this many bytes without an end is let through unexamined;
+// what follows is a line of its own.
+constexpr size_t kPSLineLimit = 8065;
+constexpr size_t kPSBlockSize = 65536;
+
+// Markers ask for these.
+enum PSMarkerRules : uint32_t {
+    kInjectBefore = 1, // inject, then write the line
+    kInjectAfter = 2,  // write the line, then inject
+    kFirstOnly = 4,    // inject at the first such line of the document only
+    kCountPage = 8,    // a page ends: count it before the injection
+    kLogPage = 16,     // and report it once the line is written
+    kPageEnd = 32,     // a cancelled job ends here, before the line
+};
+
+// text: the whole line; event: what the modules inject at, 0 for none; rules: PSMarkerRules.
+struct PSMarker {
+    std::string_view text;
+    int32_t event;
+    uint32_t rules;
+};
+
+constexpr size_t kPSWatchWords = 2;
+
+// Lines that are of interest beside the markers: those that begin with the prefix or hold one of the words.
+struct PSWatch {
+    std::string_view prefix;
+    std::string_view words[kPSWatchWords];
+};
+
+// The document's way from a descriptor to a stream. Everything before `written` is out; the current line begins at
+// `line` and, when NextPSLine found one, its end is `lineEnd`.
+struct PSLineReader {
+    int in;
+    FILE *out;
+    void (*write)(const void *buffer, size_t size, size_t count, FILE *stream); // QBfwrite, or a plain write
+    const PSWatch *watch;                                                       // or null
+
+    char block[kPSLineLimit + kPSBlockSize];
+    const char *written;
+    const char *line;
+    const char *lineEnd;
+    char *end;          // of the bytes read
+    const char *nextCR; // the first at or after `line`, or `end`; looked for anew when `line` has passed it
+    const char *nextLF;
+    const char *nextWord[kPSWatchWords]; // null when not looked for yet
+    const PSMarker *marker;              // the current line's, or null
+    char last;                           // last byte of the input, 0 when it is empty
+};
+
+void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
+                      const PSWatch *watch);
+
+// Moves to the next line that is a marker or watched; the lines on the way are written. Returns false at the end of the
+// input, with all complete lines written.
+bool NextPSLine(PSLineReader &reader);
+
+// The current line without its end; after NextPSLine returned false, the bytes behind the last line end.
+std::string_view CurrentPSLine(const PSLineReader &reader);
+
+// Write what lies before the current line, or that and the line with its end.
+void WriteBeforePSLine(PSLineReader &reader);
+void WriteThroughPSLine(PSLineReader &reader);
+
+// Copies the document with the injections at its markers; `watched` is called with each watched line before the line is
+// written. Returns false when the job was cancelled at a page end, whose line is then not written.
+bool CopyPSDocument(PSLineReader &reader, const char *const *argv,
+                    void (*watched)(std::string_view line, void *context), void *context);
+
+// Reports a page to the print system, on systems that want it.
+void OutputPageLogCommand(int32_t pageNumber, const char *const *argv);
