@@ -1,0 +1,13 @@
+// secblobenc-storage: encryption under a fixed key, for what is kept among a job's options.
+// The AES key is HMAC-SHA256 of the message under the HMAC key, built for each call and never kept.
+#pragma once
+
+#include <cstdint>
+
+// AES-256-CBC with PKCS#7 padding. `outLen` holds the output's capacity on entry and the length produced on return.
+uint32_t SecBlobEnc_DataStorage_Encrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
+                                        uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
+                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen);
+uint32_t SecBlobEnc_DataStorage_Decrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
+                                        uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
+                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen);
