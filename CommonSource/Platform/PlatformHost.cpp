@@ -6,7 +6,8 @@
 #include <netdb.h>
 #include <sys/socket.h>
 
-bool PlatformResolveHost(const char *name, std::vector<PlatformAddress> &addresses) {
+bool PlatformResolveHost(const char *name, std::vector<PlatformAddress> &addresses)
+{
     addresses.clear();
     addrinfo hints = {};
     hints.ai_socktype = SOCK_STREAM; // one entry for each address, not one for each kind of socket
@@ -22,7 +23,8 @@ bool PlatformResolveHost(const char *name, std::vector<PlatformAddress> &address
     return !addresses.empty();
 }
 
-bool PlatformNumericAddress(const PlatformAddress &address, std::span<char, kPlatformAddressText> out) {
+bool PlatformNumericAddress(const PlatformAddress &address, std::span<char, kPlatformAddressText> out)
+{
     out[0] = '\0';
     sockaddr_storage storage = {};
     if (address.size() > sizeof storage)

@@ -14,15 +14,18 @@ constexpr unsigned kLastCodeWithoutGlyph = 0x869E;
 // Longest form of one Shift-JIS character in UTF-16, in bytes: a letter and its combining mark, or a surrogate pair.
 constexpr size_t kMaxDecodedBytes = 4;
 
-static bool IsSurrogate(uint32_t code) {
+static bool IsSurrogate(uint32_t code)
+{
     return code >= 0xD800 && code <= 0xDFFF;
 }
 
-static unsigned Byte(char c) {
+static unsigned Byte(char c)
+{
     return static_cast<unsigned char>(c);
 }
 
-bool PlatformDecodeUTF8(std::string_view text, std::u16string &units) {
+bool PlatformDecodeUTF8(std::string_view text, std::u16string &units)
+{
     // Forms of two, three and four bytes: the lead byte's fixed bits and the smallest value that needs the form.
     static const struct {
         unsigned mask, lead;
@@ -57,7 +60,8 @@ bool PlatformDecodeUTF8(std::string_view text, std::u16string &units) {
     return true;
 }
 
-size_t PlatformEncodeUTF8(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out) {
+size_t PlatformEncodeUTF8(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out)
+{
     if (IsSurrogate(unit))
         return 0;
     if (unit < 0x80) {
@@ -76,7 +80,8 @@ size_t PlatformEncodeUTF8(char16_t unit, std::span<char, kPlatformMaxUnitBytes> 
 }
 
 // Converts one character. Returns the bytes written, 0 when it does not convert.
-static size_t ConvertCharacter(iconv_t converter, std::string_view character, std::span<char> out) {
+static size_t ConvertCharacter(iconv_t converter, std::string_view character, std::span<char> out)
+{
     constexpr size_t failed = static_cast<size_t>(-1);
     if (converter == reinterpret_cast<iconv_t>(-1))
         return 0;
@@ -94,7 +99,8 @@ static size_t ConvertCharacter(iconv_t converter, std::string_view character, st
     return out.size() - outLeft;
 }
 
-size_t PlatformEncodeShiftJIS(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out) {
+size_t PlatformEncodeShiftJIS(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out)
+{
     if (unit < 0x80) {
         out[0] = static_cast<char>(unit);
         return 1;
@@ -112,11 +118,13 @@ size_t PlatformEncodeShiftJIS(char16_t unit, std::span<char, kPlatformMaxUnitByt
     return length;
 }
 
-static bool IsShiftJISLead(unsigned byte) {
+static bool IsShiftJISLead(unsigned byte)
+{
     return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
 }
 
-bool PlatformDecodeShiftJIS(std::string_view text, std::u16string &units) {
+bool PlatformDecodeShiftJIS(std::string_view text, std::u16string &units)
+{
     units.clear();
     while (!text.empty()) {
         const unsigned lead = Byte(text[0]);

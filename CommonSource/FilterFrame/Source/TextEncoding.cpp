@@ -11,7 +11,8 @@ constexpr size_t kParenthesisedTextSize = 510;
 
 using UnitEncoder = size_t (*)(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out);
 
-static int32_t Convert(const char *source, char *destination, int32_t size, UnitEncoder encode) {
+static int32_t Convert(const char *source, char *destination, int32_t size, UnitEncoder encode)
+{
     if (size <= 0)
         return 0;
     memset(destination, 0, static_cast<size_t>(size));
@@ -28,15 +29,18 @@ static int32_t Convert(const char *source, char *destination, int32_t size, Unit
     return static_cast<int32_t>(length);
 }
 
-int32_t ConvertUTF8ToEncoding(const char *source, char *destination, int32_t size) {
+int32_t ConvertUTF8ToEncoding(const char *source, char *destination, int32_t size)
+{
     return Convert(source, destination, size, PlatformEncodeShiftJIS);
 }
 
-int32_t ConvertUTF8ToEncodingForUTF8(const char *source, char *destination, int32_t size) {
+int32_t ConvertUTF8ToEncodingForUTF8(const char *source, char *destination, int32_t size)
+{
     return Convert(source, destination, size, PlatformEncodeUTF8);
 }
 
-int32_t ConvertUTF8ToPPDEncoding(const char *source, char *destination, int32_t size, uint32_t) {
+int32_t ConvertUTF8ToPPDEncoding(const char *source, char *destination, int32_t size, uint32_t)
+{
     if (size <= 0)
         return 0;
     memset(destination, 0, static_cast<size_t>(size));
@@ -48,14 +52,16 @@ int32_t ConvertUTF8ToPPDEncoding(const char *source, char *destination, int32_t 
     return static_cast<int32_t>(length);
 }
 
-uint32_t GetCFStringSimEncodingFromPPD(const ppd_file_t *ppd) {
+uint32_t GetCFStringSimEncodingFromPPD(const ppd_file_t *ppd)
+{
     const ppd_attr_t *language = ppdFindAttr_ALT(ppd, "LanguageEncoding");
     if (language && language->value && strcmp(language->value, "JIS83-RKSJ") == 0)
         return kCFStringEncodingJIS_X0208_83;
     return kCFStringEncodingUTF8;
 }
 
-bool checkIfCharacterIsMultibyte(const char *text) {
+bool checkIfCharacterIsMultibyte(const char *text)
+{
     std::u16string units;
     PlatformDecodeUTF8(text, units);
     for (const char16_t unit : units) {
@@ -66,7 +72,8 @@ bool checkIfCharacterIsMultibyte(const char *text) {
     return false;
 }
 
-size_t UTF8BytesOfUnits(std::string_view text, size_t units) {
+size_t UTF8BytesOfUnits(std::string_view text, size_t units)
+{
     for (size_t i = 0; i < text.size(); i++) {
         const unsigned byte = static_cast<unsigned char>(text[i]);
         if ((byte & 0xC0) == 0x80)

@@ -22,7 +22,8 @@ constexpr int kOptionsArgument = 5;
 
 using TextConverter = int32_t (*)(const char *source, char *destination, int32_t size);
 
-JobOptions OptionsOfJob(const char *const *argv) {
+JobOptions OptionsOfJob(const char *const *argv)
+{
     static std::string parsed;
     static JobOptions options;
     const char *text = argv[kOptionsArgument] ? argv[kOptionsArgument] : "";
@@ -35,14 +36,16 @@ JobOptions OptionsOfJob(const char *const *argv) {
     return options;
 }
 
-int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int32_t count) {
+int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int32_t count)
+{
     const JobOptions options = OptionsOfJob(argv);
     for (int32_t i = 0; i < count; i++)
         table[i].getter(table[i].key, options.count, options.list, table[i].destination, table[i].size);
     return 1;
 }
 
-void numstrtochar(char *text, int32_t size) {
+void numstrtochar(char *text, int32_t size)
+{
     if (size <= 0)
         return;
     const size_t capacity = static_cast<size_t>(size);
@@ -60,40 +63,46 @@ void numstrtochar(char *text, int32_t size) {
     }
 }
 
-int32_t GetTicketInteger(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t) {
+int32_t GetTicketInteger(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t)
+{
     const char *value = cupsGetOption(key, optionCount, options);
     *static_cast<int32_t *>(destination) = value ? atoi(value) : -1;
     return value != nullptr;
 }
 
-int32_t GetTicketFloat(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t) {
+int32_t GetTicketFloat(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t)
+{
     const char *value = cupsGetOption(key, optionCount, options);
     *static_cast<float *>(destination) = value ? static_cast<float>(atof(value)) : -1.0f;
     return value != nullptr;
 }
 
-int32_t CheckTicketKey(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t) {
+int32_t CheckTicketKey(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t)
+{
     *static_cast<int32_t *>(destination) = cupsGetOption(key, optionCount, options) == nullptr;
     return 1;
 }
 
 // The text of a ticket; null, with the destination all zero, when it is absent.
 static const char *TextOrZero(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
-                              int32_t size) {
+                              int32_t size)
+{
     const char *value = cupsGetOption(key, optionCount, options);
     if (!value && size > 0)
         memset(destination, 0, static_cast<size_t>(size));
     return value;
 }
 
-static int32_t DecodeAndConvert(const char *value, void *destination, int32_t size, TextConverter convert) {
+static int32_t DecodeAndConvert(const char *value, void *destination, int32_t size, TextConverter convert)
+{
     char text[kTicketTextSize];
     CopyCut(text, value);
     numstrtochar(text, sizeof text);
     return convert(text, static_cast<char *>(destination), size);
 }
 
-int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size) {
+int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size)
+{
     const char *value = TextOrZero(key, optionCount, options, destination, size);
     if (value)
         ConvertUTF8ToEncoding(value, static_cast<char *>(destination), size);
@@ -101,7 +110,8 @@ int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *opt
 }
 
 int32_t GetTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
-                                          void *destination, int32_t size) {
+                                          void *destination, int32_t size)
+{
     const char *value = TextOrZero(key, optionCount, options, destination, size);
     if (value)
         DecodeAndConvert(value, destination, size, ConvertUTF8ToEncoding);
@@ -109,7 +119,8 @@ int32_t GetTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, 
 }
 
 int32_t GetTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
-                                                 void *destination, int32_t size) {
+                                                 void *destination, int32_t size)
+{
     const char *value = TextOrZero(key, optionCount, options, destination, size);
     if (value)
         DecodeAndConvert(value, destination, size, ConvertUTF8ToEncodingForUTF8);
@@ -117,23 +128,27 @@ int32_t GetTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t option
 }
 
 int32_t GetLengthOfTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
-                                                  void *destination, int32_t size) {
+                                                  void *destination, int32_t size)
+{
     const char *value = TextOrZero(key, optionCount, options, destination, size);
     return value ? DecodeAndConvert(value, destination, size, ConvertUTF8ToEncoding) : 0;
 }
 
 int32_t GetLengthOfTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
-                                                         void *destination, int32_t size) {
+                                                         void *destination, int32_t size)
+{
     const char *value = TextOrZero(key, optionCount, options, destination, size);
     return value ? DecodeAndConvert(value, destination, size, ConvertUTF8ToEncodingForUTF8) : 0;
 }
 
-static int32_t ConvertToQueueEncoding(const char *source, char *destination, int32_t size) {
+static int32_t ConvertToQueueEncoding(const char *source, char *destination, int32_t size)
+{
     return ConvertUTF8ToPPDEncoding(source, destination, size, GetCFStringSimEncodingFromPPD(JobPPD()));
 }
 
 int32_t GetTicketStringConvertedToPPDEncodingString(const char *key, int32_t optionCount, cups_option_t *options,
-                                                    void *destination, int32_t size) {
+                                                    void *destination, int32_t size)
+{
     const char *value = TextOrZero(key, optionCount, options, destination, size);
     if (value)
         DecodeAndConvert(value, destination, size, ConvertToQueueEncoding);
@@ -141,7 +156,8 @@ int32_t GetTicketStringConvertedToPPDEncodingString(const char *key, int32_t opt
 }
 
 static int32_t NumberUp(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size,
-                        const char *prefix) {
+                        const char *prefix)
+{
     const char *value = cupsGetOption(key, optionCount, options);
     char digits[3];
     if (!value) {
@@ -157,11 +173,13 @@ static int32_t NumberUp(const char *key, int32_t optionCount, cups_option_t *opt
 }
 
 int32_t GetNumberUpTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
-                                int32_t size) {
+                                int32_t size)
+{
     return NumberUp(key, optionCount, options, destination, size, "N");
 }
 
 int32_t GetNumberUpTicketStringForComment(const char *key, int32_t optionCount, cups_option_t *options,
-                                          void *destination, int32_t size) {
+                                          void *destination, int32_t size)
+{
     return NumberUp(key, optionCount, options, destination, size, "");
 }

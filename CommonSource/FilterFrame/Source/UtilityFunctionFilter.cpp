@@ -30,18 +30,21 @@ static int32_t outStringLen;
 static bool result;
 
 // Ends the process when what must hold doesn't, also in a release build.
-static void Require(bool holds, const char *condition, const char *function) {
+static void Require(bool holds, const char *condition, const char *function)
+{
     if (holds)
         return;
     fprintf(stderr, "Assertion failed: (%s), function %s, file UtilityFunctionFilter.cpp.\n", condition, function);
     abort();
 }
 
-static bool IsASCII(std::string_view text) {
+static bool IsASCII(std::string_view text)
+{
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-void CutHostName(std::string_view name, char *destination) {
+void CutHostName(std::string_view name, char *destination)
+{
     std::u16string units;
     if (UTF8Mode && PlatformDecodeUTF8(name, units) && units.size() > kHostNameUnits)
         name = name.substr(0, UTF8BytesOfUnits(name, kHostNameUnits));
@@ -49,14 +52,16 @@ void CutHostName(std::string_view name, char *destination) {
     CopyCut({destination, kHostNameSize}, name);
 }
 
-void getHostName(char *destination) {
+void getHostName(char *destination)
+{
     char name[kSystemHostName + 1] = "";
     if (gethostname(name, kSystemHostName) != 0)
         name[0] = '\0';
     CutHostName(name, destination);
 }
 
-bool getHostAddress(const char *name, char *destination, int32_t size) {
+bool getHostAddress(const char *name, char *destination, int32_t size)
+{
     result = false;
     if (!name || !destination || size < 0)
         return false;
@@ -68,20 +73,23 @@ bool getHostAddress(const char *name, char *destination, int32_t size) {
     return result;
 }
 
-bool MyResolveNameToAddress(const char *hostName) {
+bool MyResolveNameToAddress(const char *hostName)
+{
     Require(hostName != nullptr, "hostName != NULL", __func__);
     HostLookup *host = new HostLookup;
     MyCFHostClientCallBack(host, PlatformResolveHost(hostName, *host) ? 0 : -1, hostName);
     return true;
 }
 
-void MyCFHostClientCallBack(HostLookup *host, int32_t error, const char *hostName) {
+void MyCFHostClientCallBack(HostLookup *host, int32_t error, const char *hostName)
+{
     if (error == 0)
         MyPrintAddressArray(host, hostName);
     MyCFHostCleanup(host);
 }
 
-void MyPrintAddressArray(const HostLookup *addresses, const char *hostName) {
+void MyPrintAddressArray(const HostLookup *addresses, const char *hostName)
+{
     Require(addresses != nullptr, "addresses != NULL", __func__);
     Require(hostName != nullptr, "hostName != NULL", __func__);
     Require(IsASCII(hostName), "success", __func__);
@@ -98,12 +106,14 @@ void MyPrintAddressArray(const HostLookup *addresses, const char *hostName) {
     }
 }
 
-void MyCFHostCleanup(HostLookup *host) {
+void MyCFHostCleanup(HostLookup *host)
+{
     Require(host != nullptr, "host != NULL", __func__);
     delete host;
 }
 
-static std::string CompactIPv4(const char *octets) {
+static std::string CompactIPv4(const char *octets)
+{
     std::string compact = "I";
     for (const char *octet = octets; octet; octet = strchr(octet, '.')) {
         if (*octet == '.')
@@ -119,7 +129,8 @@ static std::string CompactIPv4(const char *octets) {
 }
 
 // The groups of one side of "::", each padded to four digits.
-static std::string PaddedGroups(std::string_view groups) {
+static std::string PaddedGroups(std::string_view groups)
+{
     std::string padded;
     while (!groups.empty()) {
         const std::string_view group = groups.substr(0, groups.find(':'));
@@ -129,7 +140,8 @@ static std::string PaddedGroups(std::string_view groups) {
     return padded;
 }
 
-static std::string CompactIPv6(std::string_view address) {
+static std::string CompactIPv6(std::string_view address)
+{
     const size_t gap = address.find("::");
     const std::string head = PaddedGroups(address.substr(0, gap));
     const std::string tail = gap == std::string_view::npos ? "" : PaddedGroups(address.substr(gap + 2));
@@ -137,7 +149,8 @@ static std::string CompactIPv6(std::string_view address) {
     return "6" + head + std::string(digits - std::min(digits, head.size() + tail.size()), '0') + tail;
 }
 
-void CompactAddress(std::string_view address, char *destination) {
+void CompactAddress(std::string_view address, char *destination)
+{
     const std::string numeric(address.substr(0, address.find('%')));
     std::string compact;
     if (numeric.find(_IPv4_sign_) != std::string::npos) // also as the end of an IPv6 address that stands for IPv4
@@ -148,14 +161,16 @@ void CompactAddress(std::string_view address, char *destination) {
     CopyCut({destination, kIPAddressSize}, compact);
 }
 
-void GetClientIPAddress(char *hostBuffer, char *addressBuffer) {
+void GetClientIPAddress(char *hostBuffer, char *addressBuffer)
+{
     char address[kPlatformAddressText] = "";
     getHostName(hostBuffer);
     getHostAddress(hostBuffer, address, sizeof address);
     CompactAddress(address, addressBuffer);
 }
 
-char *itoa(int32_t value, char *buffer, int32_t size) {
+char *itoa(int32_t value, char *buffer, int32_t size)
+{
     if (size <= 0)
         return buffer;
     char *digit = buffer + size - 1;
