@@ -39,7 +39,8 @@ bool ISWordValid(const char *text, const DataRangeTable &words);
 bool ISByteSpace(const char *text, const DataRangeTable &bytes);
 bool ISWordSpace(const char *text, const DataRangeTable &words);
 
-// 1 when the whole text is made of allowed characters, else 0. The buffer must hold two NULs after the text.
+// 1 when the whole text is made of allowed characters, else 0. A pair is tried before a single byte, also the pair of
+// the last byte and the NUL.
 int32_t ValidateDada(const char *text, const ValidateDataScale &scale);
 
 // 1 when the text is empty or only spaces (ASCII, or the ideographic space in Shift-JIS), else 0.
