@@ -7,6 +7,7 @@
 #include "NameValidation.h"
 #include "OutputSink.h"
 #include "PPDLookup.h"
+#include "PSSpool.h"
 #include "PSStream.h"
 #include "SystemVersion.h"
 #include "TextEncoding.h"
@@ -143,7 +144,10 @@ static int RunJob(int argc, const char *const *argv) {
     setvbuf(stderr, nullptr, _IONBF, 0);
     GetTicketFromPDE(argv);
     OutputZPJLCommand(argv);
-    OutputPSStream(argc, argv);
+    if (IsSpooledMode())
+        OutputPSStreamtoFileandInsertPJLforFeaturePDE(argc, argv);
+    else
+        OutputPSStream(argc, argv);
     OutputZPJLCommandFromArray(argv, prtFmtTableZPJLTrailer, numFmtTableZPJLTrailer);
     CloseJobCopy();
     CloseJobPPD();

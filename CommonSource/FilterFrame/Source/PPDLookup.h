@@ -27,7 +27,8 @@ const char *PPDAttributeValue(const char *name);
 // Whether that value is exactly `value`.
 bool PPDAttributeIs(const char *name, const char *value);
 
-// Whether the queue's PPD defines the option.
+// Whether the PPD (the queue's, when none is named) defines the option.
+bool PPDHasOption(ppd_file_t *ppd, const char *keyword);
 bool PPDHasOption(const char *keyword);
 
 // The size of a page of the queue's PPD, in points. Returns false, with both 0, when the PPD doesn't define it.
