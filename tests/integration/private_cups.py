@@ -1,0 +1,174 @@
+"""A print system of its own for a test: a cupsd that only this test talks to, and a printer that keeps what it gets."""
+
+import os
+import pwd
+import shutil
+import socket
+import subprocess
+import tempfile
+import threading
+import time
+
+BOUND = 120  # seconds that anything awaited may take
+
+
+def wait_for(condition, what):
+    end = time.monotonic() + BOUND
+    while not condition():
+        if time.monotonic() > end:
+            raise TimeoutError(f"waited {BOUND} seconds for {what}")
+        time.sleep(0.05)
+
+
+class Printer:
+    """A socket on the loopback interface that takes one job after the other, and reads only while it is not held."""
+
+    def __init__(self):
+        self.jobs = []  # one bytearray a connection
+        self.ended = 0  # connections that the print system has closed
+        self.ready = threading.Event()
+        self.ready.set()
+        self.listener = socket.socket()
+        # Small buffers, so that a held job soon waits in the filter.
+        self.listener.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 64 * 1024)
+        self.listener.bind(("127.0.0.1", 0))
+        self.listener.listen()
+        self.uri = f"socket://127.0.0.1:{self.listener.getsockname()[1]}/?snmp=false"
+        threading.Thread(target=self._run, daemon=True).start()
+
+    def _run(self):
+        while True:
+            connection, _ = self.listener.accept()
+            job = bytearray()
+            self.jobs.append(job)
+            with connection:
+                while data := connection.recv(16 * 1024):
+                    job += data
+                    self.ready.wait()
+            self.ended += 1
+
+
+class PrivateCups:
+    def __init__(self, filter_path):
+        self.filter_path = filter_path
+        self.root = tempfile.mkdtemp(prefix="ovcups.", dir="/tmp")  # short: the socket's path is limited
+        self.server = None
+
+    def path(self, *parts):
+        return os.path.join(self.root, *parts)
+
+    def __enter__(self):
+        os.chmod(self.root, 0o755)
+        self._make_server_bin()
+        self._write_configuration()
+        self.environment = dict(os.environ, CUPS_SERVER=self.path("cups.sock"), HOME=self.root, LC_ALL="C")
+        with open(self.path("cupsd.out"), "wb") as out:
+            self.server = subprocess.Popen(
+                [shutil.which("cupsd", path=os.environ["PATH"] + ":/usr/sbin"), "-f",
+                 "-c", self.path("cupsd.conf"), "-s", self.path("cups-files.conf")],
+                stdin=subprocess.DEVNULL, stdout=out, stderr=out)
+        try:
+            wait_for(self._running, "cupsd")
+        except BaseException:
+            self.__exit__(None, None, None)
+            raise
+        return self
+
+    def __exit__(self, kind, value, trace):
+        self.server.terminate()
+        try:
+            self.server.wait(BOUND)
+        except subprocess.TimeoutExpired:
+            self.server.kill()
+            self.server.wait()
+        if kind is None:
+            shutil.rmtree(self.root)
+        else:
+            print(f"cupsd's files are kept in {self.root}")
+
+    def _make_server_bin(self):
+        # Filters and backends of the system, and the filter under test: a copy, since cupsd run by root refuses a
+        # filter that is not root's or lies where others may write.
+        system = subprocess.run(["cups-config", "--serverbin"], check=True, capture_output=True, text=True).stdout.strip()
+        for folder in ("filter", "backend", "daemon", "driver", "notifier", "cgi-bin", "monitor"):
+            os.makedirs(self.path("bin", folder), 0o755)
+            if os.path.isdir(os.path.join(system, folder)):
+                for entry in os.scandir(os.path.join(system, folder)):
+                    os.symlink(entry.path, self.path("bin", folder, entry.name))
+        installed = self.path("bin", "filter", "pstoorvane")
+        if os.path.lexists(installed):
+            os.remove(installed)
+        shutil.copy(self.filter_path, installed)
+        os.chmod(installed, 0o755)
+
+    def _write_configuration(self):
+        for folder in ("etc", "etc/ppd", "cache", "state", "spool", "spool/tmp", "doc"):
+            os.makedirs(self.path(folder), 0o755)
+        if os.geteuid() == 0:
+            lp = pwd.getpwnam("lp")
+            for folder in ("cache", "state", "spool", "spool/tmp"):
+                os.chown(self.path(folder), lp.pw_uid, lp.pw_gid)
+        with open(self.path("cups-files.conf"), "w") as conf:
+            for name, value in (("ServerRoot", "etc"), ("CacheDir", "cache"), ("StateDir", "state"),
+                                ("RequestRoot", "spool"), ("TempDir", "spool/tmp"), ("DocumentRoot", "doc"),
+                                ("ServerBin", "bin"), ("AccessLog", "access_log"), ("ErrorLog", "error_log"),
+                                ("PageLog", "page_log"), ("ServerKeychain", "etc/ssl")):
+                conf.write(f"{name} {self.path(value)}\n")
+            conf.write("FatalErrors none\nPassEnv ASAN_OPTIONS UBSAN_OPTIONS LSAN_OPTIONS\n")
+        with open(self.path("cupsd.conf"), "w") as conf:
+            conf.write(f"""Listen {self.path("cups.sock")}
+LogLevel debug
+MaxLogSize 0
+PageLogFormat %p %j %u %P %C
+Browsing No
+WebInterface No
+DefaultShared No
+IdleExitTimeout 0
+<Location />
+  Order allow,deny
+  Allow all
+</Location>
+<Policy default>
+  JobPrivateAccess all
+  JobPrivateValues none
+  <Limit All>
+    Order deny,allow
+  </Limit>
+</Policy>
+""")
+
+    def _running(self):
+        if self.server.poll() is not None:
+            raise RuntimeError("cupsd ended at once:\n" + self.text("cupsd.out") + self.text("error_log"))
+        return os.path.exists(self.path("cups.sock")) and "is running" in self.run("lpstat", "-r")
+
+    def text(self, name):
+        try:
+            with open(self.path(name), encoding="utf-8", errors="replace") as file:
+                return file.read()
+        except FileNotFoundError:
+            return ""
+
+    def run(self, *command):
+        done = subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, text=True, timeout=BOUND)
+        if done.returncode != 0 and command[0] != "lpstat":
+            raise RuntimeError(f"{' '.join(command)}: {done.stdout}{self.text('error_log')}")
+        return done.stdout
+
+    def add_queue(self, name, ppd, printer):
+        self.run("lpadmin", "-p", name, "-E", "-v", printer.uri, "-P", ppd, "-o", "printer-error-policy=abort-job")
+
+    def lp(self, queue, document, title, options=()):
+        """Submits a job of the user taro and returns its name (queue-number)."""
+        arguments = [argument for option in options for argument in ("-o", option)]
+        reply = self.run("lp", "-U", "taro", "-d", queue, "-t", title, *arguments, document)
+        return reply.split("request id is ")[1].split()[0]
+
+    def wait_done(self, job):
+        wait_for(lambda: job not in self.run("lpstat", "-W", "not-completed", "-o").split(), f"the end of {job}")
+
+    def log_of(self, job):
+        """What cupsd and the job's filters logged about it."""
+        mark = f"[Job {job.rsplit('-', 1)[1]}]"
+        return [line for line in self.text("error_log").splitlines() if mark in line]
