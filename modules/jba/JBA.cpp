@@ -70,7 +70,7 @@ static const char KAdobePaperInfoRectWidthTicketKey[] = PAPER_RECT "..a.3..n.";
 constexpr int32_t kLayoutTicketSize = 10;
 constexpr int32_t kPaperTicketSize = 20;
 
-constexpr JBAOptions &option = zpjlOptionJBA;
+static constexpr JBAOptions &option = zpjlOptionJBA;
 constexpr TicketGetter Integer = GetTicketInteger;
 constexpr TicketGetter Text = GetTicketStringConvertedToPrtLang;
 constexpr TicketGetter Password = GetTicketPasswordStringConvertedToEncryption;

@@ -30,7 +30,7 @@ inline constexpr int32_t OptionComInUserTypeEnterNameAdmin = 2;
 // userIDTicketAbsent: the job carries no user ID.
 inline constexpr int32_t JBAUserNameNotExist = 1;
 
-constexpr const JBAOptions &option = zpjlOptionJBA;
+static constexpr const JBAOptions &option = zpjlOptionJBA;
 
 // The user's settings: stored in the dialog or for this job only.
 constexpr ComparationItem UserMode = Equal(option.manageType, JBAModeListUser);

@@ -7,32 +7,32 @@
 #include <iterator>
 
 // The stored settings.
-constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin = prtfmtStrComInTypeUseLoginName;
+static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin = prtfmtStrComInTypeUseLoginName;
 const ComparationItem comparationItemComInTypeUseLoginNameAdmin[] = {AdminMode, AdminStoredSettings, AdminUseLoginName,
                                                                      NotEmpty(StdUserName), NoInfoList};
 static ComparationTable comparationComInTypeUseLoginNameAdmin;
 
-constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin1 = prtfmtStrComInTypeUseLoginName1;
+static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin1 = prtfmtStrComInTypeUseLoginName1;
 const ComparationItem comparationItemComInTypeUseLoginNameAdmin1[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, AnyInfoList, BillingOnly, NameShown};
 static ComparationTable comparationComInTypeUseLoginNameAdmin1;
 
-constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin2 = prtfmtStrComInTypeUseLoginName2;
+static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin2 = prtfmtStrComInTypeUseLoginName2;
 const ComparationItem comparationItemComInTypeUseLoginNameAdmin2[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), AnyInfoList, UserAccount, NameShown};
 static ComparationTable comparationComInTypeUseLoginNameAdmin2;
 
-constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin3 = prtfmtStrComInTypeUseLoginName3;
+static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin3 = prtfmtStrComInTypeUseLoginName3;
 const ComparationItem comparationItemComInTypeUseLoginNameAdmin3[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), AnyInfoList, AllInfo, NameShown};
 static ComparationTable comparationComInTypeUseLoginNameAdmin3;
 
-constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin4 = prtfmtStrComInTypeUseLoginName4;
+static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin4 = prtfmtStrComInTypeUseLoginName4;
 const ComparationItem comparationItemComInTypeUseLoginNameAdmin4[] = {AdminMode, AdminStoredSettings, AdminUseLoginName,
                                                                       AnyInfoList, NameHidden};
 static ComparationTable comparationComInTypeUseLoginNameAdmin4;
 
-constexpr auto &prtfmtStrComInTypeUseEnterNameAdmin = prtfmtStrComInTypeUseEnterName;
+static constexpr auto &prtfmtStrComInTypeUseEnterNameAdmin = prtfmtStrComInTypeUseEnterName;
 const void *const cmdParaComInTypeUseEnterNameAdmin[] = {&CTRLSym_DOUBLE, option.adminUserID, &CTRLSym_DOUBLE,
                                                          &CTRLSym_CR, &CTRLSym_LF};
 const ComparationItem comparationItemComInTypeUseEnterNameAdmin[] = {AdminMode, AdminStoredSettings,
@@ -40,7 +40,7 @@ const ComparationItem comparationItemComInTypeUseEnterNameAdmin[] = {AdminMode, 
 static CmdParaTable symParaComInTypeUseEnterNameAdmin;
 static ComparationTable comparationComInTypeUseEnterNameAdmin;
 
-constexpr auto &prtfmtStrComInUserEnterPassword1Admin = prtfmtStrComInUserEnterPassword1;
+static constexpr auto &prtfmtStrComInUserEnterPassword1Admin = prtfmtStrComInUserEnterPassword1;
 const void *const cmdParaComInUserEnterPassword1Admin[] = {&CTRLSym_DOUBLE, option.adminUserPassword, &CTRLSym_DOUBLE,
                                                            &CTRLSym_CR, &CTRLSym_LF};
 const ComparationItem comparationItemComInUserEnterPassword1Admin[] = {
@@ -48,12 +48,12 @@ const ComparationItem comparationItemComInUserEnterPassword1Admin[] = {
 static CmdParaTable symParaComInUserEnterPassword1Admin;
 static ComparationTable comparationComInUserEnterPassword1Admin;
 
-constexpr auto &prtfmtStrComInUserEnterPassword1NULLAdmin = prtfmtStrComInUserEnterPassword1NULL;
+static constexpr auto &prtfmtStrComInUserEnterPassword1NULLAdmin = prtfmtStrComInUserEnterPassword1NULL;
 const ComparationItem comparationItemComInUserEnterPassword1NULLAdmin[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), Empty(option.adminUserPassword)};
 static ComparationTable comparationComInUserEnterPassword1NULLAdmin;
 
-constexpr auto &prtfmtStrComInUserEnterPassword2Admin = prtfmtStrComInUserEnterPassword2;
+static constexpr auto &prtfmtStrComInUserEnterPassword2Admin = prtfmtStrComInUserEnterPassword2;
 const void *const cmdParaComInUserEnterPassword2Admin[] = {&CTRLSym_DOUBLE, option.adminUserPassword, &CTRLSym_DOUBLE,
                                                            &CTRLSym_CR, &CTRLSym_LF};
 const ComparationItem comparationItemComInUserEnterPassword2Admin[] = {
@@ -62,12 +62,12 @@ const ComparationItem comparationItemComInUserEnterPassword2Admin[] = {
 static CmdParaTable symParaComInUserEnterPassword2Admin;
 static ComparationTable comparationComInUserEnterPassword2Admin;
 
-constexpr auto &prtfmtStrComInUserEnterPassword2NULLAdmin = prtfmtStrComInUserEnterPassword2NULL;
+static constexpr auto &prtfmtStrComInUserEnterPassword2NULLAdmin = prtfmtStrComInUserEnterPassword2NULL;
 const ComparationItem comparationItemComInUserEnterPassword2NULLAdmin[] = {
     AdminMode, AdminStoredSettings, AdminUseEnteredName, NotEmpty(option.adminUserID), Empty(option.adminUserPassword)};
 static ComparationTable comparationComInUserEnterPassword2NULLAdmin;
 
-constexpr auto &prtfmtStrComInTypeDomainNameAdmin = prtfmtStrComInDomainName;
+static constexpr auto &prtfmtStrComInTypeDomainNameAdmin = prtfmtStrComInDomainName;
 const void *const cmdParaComInTypeDomainNameAdmin[] = {&CTRLSym_DOUBLE, option.adminDomainName, &CTRLSym_DOUBLE,
                                                        &CTRLSym_CR, &CTRLSym_LF};
 const ComparationItem comparationItemComInTypeDomainNameAdmin[] = {AdminMode, AdminStoredSettings,
@@ -75,7 +75,7 @@ const ComparationItem comparationItemComInTypeDomainNameAdmin[] = {AdminMode, Ad
 static CmdParaTable symParaComInTypeDomainNameAdmin;
 static ComparationTable comparationComInTypeDomainNameAdmin;
 
-constexpr auto &prtfmtStrComInAccountAdmin = prtfmtStrComInAccount;
+static constexpr auto &prtfmtStrComInAccountAdmin = prtfmtStrComInAccount;
 const void *const cmdParaComInAccountAdmin[] = {&CTRLSym_DOUBLE, option.adminAccountID, &CTRLSym_DOUBLE, &CTRLSym_CR,
                                                 &CTRLSym_LF};
 const ComparationItem comparationItemComInAccountAdmin[] = {AdminMode, AdminStoredSettings,
@@ -83,12 +83,12 @@ const ComparationItem comparationItemComInAccountAdmin[] = {AdminMode, AdminStor
 static CmdParaTable symParaComInAccountAdmin;
 static ComparationTable comparationComInAccountAdmin;
 
-constexpr auto &prtfmtStrComInAccountNULLAdmin = prtfmtStrComInAccountNULL;
+static constexpr auto &prtfmtStrComInAccountNULLAdmin = prtfmtStrComInAccountNULL;
 const ComparationItem comparationItemComInAccountNULLAdmin[] = {AdminMode, AdminStoredSettings,
                                                                 Empty(option.adminAccountID)};
 static ComparationTable comparationComInAccountNULLAdmin;
 
-constexpr auto &prtfmtStrComInAccumulationIDAdmin = prtfmtStrComInAccumulationID;
+static constexpr auto &prtfmtStrComInAccumulationIDAdmin = prtfmtStrComInAccumulationID;
 const void *const cmdParaComInAccumulationIDAdmin[] = {&CTRLSym_DOUBLE, option.adminStorageID, &CTRLSym_DOUBLE,
                                                        &CTRLSym_CR, &CTRLSym_LF};
 const ComparationItem comparationItemComInAccumulationIDAdmin[] = {AdminMode, AdminStoredSettings,
@@ -96,12 +96,12 @@ const ComparationItem comparationItemComInAccumulationIDAdmin[] = {AdminMode, Ad
 static CmdParaTable symParaComInAccumulationIDAdmin;
 static ComparationTable comparationComInAccumulationIDAdmin;
 
-constexpr auto &prtfmtStrComInAccumulationDocumentNameAdmin = prtfmtStrAccumulationDocumentName;
+static constexpr auto &prtfmtStrComInAccumulationDocumentNameAdmin = prtfmtStrAccumulationDocumentName;
 const ComparationItem comparationItemComInAccumulationDocumentNameAdmin[] = {AdminMode, AdminStoredSettings,
                                                                              NotEmpty(StdDocumentName)};
 static ComparationTable comparationComInAccumulationDocumentNameAdmin;
 
-constexpr auto &prtfmtStrComInAccumulationPasswordAdmin = prtfmtStrComInAccumulationPassword;
+static constexpr auto &prtfmtStrComInAccumulationPasswordAdmin = prtfmtStrComInAccumulationPassword;
 const void *const cmdParaComInAccumulationPasswordAdmin[] = {&CTRLSym_DOUBLE, option.adminStoragePassword,
                                                              &CTRLSym_DOUBLE, &CTRLSym_CR, &CTRLSym_LF};
 const ComparationItem comparationItemComInAccumulationPasswordAdmin[] = {
@@ -109,7 +109,7 @@ const ComparationItem comparationItemComInAccumulationPasswordAdmin[] = {
 static CmdParaTable symParaComInAccumulationPasswordAdmin;
 static ComparationTable comparationComInAccumulationPasswordAdmin;
 
-constexpr auto &prtfmtStrComInAccumulationPasswordNULLAdmin = prtfmtStrComInAccumulationPasswordNULL;
+static constexpr auto &prtfmtStrComInAccumulationPasswordNULLAdmin = prtfmtStrComInAccumulationPasswordNULL;
 const ComparationItem comparationItemComInAccumulationPasswordNULLAdmin[] = {
     AdminMode, AdminStoredSettings, NotEmpty(option.adminStorageID), Empty(option.adminStoragePassword)};
 static ComparationTable comparationComInAccumulationPasswordNULLAdmin;
@@ -166,7 +166,7 @@ const ComparationItem comparationItemJobInAccumulationIDAdmin[] = {AdminMode, Ad
                                                                    NotEmpty(option.inputStorageID)};
 static ComparationTable comparationJobInAccumulationIDAdmin;
 
-constexpr auto &prtfmtStrJobInAccumulationDocumentName = prtfmtStrAccumulationDocumentName;
+static constexpr auto &prtfmtStrJobInAccumulationDocumentName = prtfmtStrAccumulationDocumentName;
 const ComparationItem comparationItemJobInAccumulationDocumentNameAdmin[] = {AdminMode, AdminJobSettings,
                                                                              NotEmpty(StdDocumentName)};
 static ComparationTable comparationJobInAccumulationDocumentNameAdmin;

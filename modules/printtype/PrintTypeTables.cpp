@@ -20,7 +20,7 @@ const int32_t OptionDocumentNameEnterName = 2;
 // A user name of secure print must be shorter.
 const int32_t PRINTTYPEUSERNAMEDMAXLEN = 97;
 
-constexpr const PrintTypeOptions &option = zpjlOptionPrintType;
+static constexpr const PrintTypeOptions &option = zpjlOptionPrintType;
 
 // Names are sent for every type that is not normal printing, also for none (-1).
 constexpr ComparationItem NotNormalPrint = NotEqual(option.printType, OptionSecurePrintNone);
@@ -120,17 +120,35 @@ static CmdParaTable symParaDelayPrint;
 static ComparationTable comparationDelayPrint;
 constexpr FmtTableRow rowDelayPrint = {prtfmtStrDelayPrint, &symParaDelayPrint, &comparationDelayPrint};
 
+// clang-format off
 const FmtTableRow PrintTypeFmtTable[] = {
-    rowSecurePrint,         rowSecurePrintHold,          rowSamplePrintHold,       rowSMBPrintHold,
-    rowMBNumberPrintHold,   rowSMBEnterNumber,           rowSMBPassword,           rowSecurePrintUserName,
-    rowSecurePrintPassword, rowDocumentNameAutoRetrieve, rowDocumentNameEnterName, rowDelayPrint,
+    rowSecurePrint,
+    rowSecurePrintHold,
+    rowSamplePrintHold,
+    rowSMBPrintHold,
+    rowMBNumberPrintHold,
+    rowSMBEnterNumber,
+    rowSMBPassword,
+    rowSecurePrintUserName,
+    rowSecurePrintPassword,
+    rowDocumentNameAutoRetrieve,
+    rowDocumentNameEnterName,
+    rowDelayPrint,
 };
+// clang-format on
 const int32_t PrintTypeFmtTableNum = static_cast<int32_t>(std::size(PrintTypeFmtTable));
 
+// clang-format off
 const FmtTableRow PrintTypeFmtPartTable[] = {
-    rowSecurePrint,         rowSecurePrintHold,          rowSamplePrintHold,       rowSecurePrintUserName,
-    rowSecurePrintPassword, rowDocumentNameAutoRetrieve, rowDocumentNameEnterName,
+    rowSecurePrint,
+    rowSecurePrintHold,
+    rowSamplePrintHold,
+    rowSecurePrintUserName,
+    rowSecurePrintPassword,
+    rowDocumentNameAutoRetrieve,
+    rowDocumentNameEnterName,
 };
+// clang-format on
 const int32_t PrintTypeFmtPartTableNum = static_cast<int32_t>(std::size(PrintTypeFmtPartTable));
 
 void PrintTypeInitializeCmdParaTable()

@@ -1,11 +1,25 @@
 #include "ModuleDispatch.h"
 
-void InializeDescriptionTableFromFilter() {}
+#include "JBA.h"
+#include "PrintType.h"
 
-int32_t GetTicketFromPDE(const char *const *) {
+void InializeDescriptionTableFromFilter()
+{
+    PrintTypeInializeDescriptionTableFromFilter();
+    JBAInializeDescriptionTableFromFilter();
+}
+
+int32_t GetTicketFromPDE(const char *const *argv)
+{
+    PrintTypeGetTicketFromPDE(argv);
+    JBAGetTicketFromPDE(argv);
     return 1;
 }
 
-void OutputZPJLCommandFromFilter(const char *const *) {}
+void OutputZPJLCommandFromFilter(const char *const *argv)
+{
+    PrintTypeOutputZPJLCommandFromFilter(argv);
+    JBAOutputZPJLCommandFromFilter(argv);
+}
 
 void OutputPSCommandFromFilter(int32_t, int32_t, FILE *) {}
