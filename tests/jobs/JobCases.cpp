@@ -10,7 +10,8 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace {
+namespace
+{
 
 struct Case {
     std::string name;
@@ -39,7 +40,8 @@ const char requiredPPDHead[] = R"(*PPD-Adobe: "4.3"
 *LanguageEncoding: ISOLatin1
 )";
 
-std::string Unescape(const std::string &text) {
+std::string Unescape(const std::string &text)
+{
     static const std::map<char, char> codes = {{'e', '\x1B'}, {'r', '\r'}, {'n', '\n'}, {'t', '\t'}, {'\\', '\\'}};
     std::string result;
     for (size_t i = 0; i < text.size(); i++) {
@@ -56,7 +58,8 @@ std::string Unescape(const std::string &text) {
 }
 
 // The text behind "| ", with a line feed unless it ends with a single backslash.
-std::string ContentLine(const std::string &line) {
+std::string ContentLine(const std::string &line)
+{
     std::string text = line.substr(std::min<size_t>(2, line.size()));
     const size_t backslashes = text.size() - (text.find_last_not_of('\\') + 1);
     if (backslashes % 2 == 0)
@@ -65,12 +68,14 @@ std::string ContentLine(const std::string &line) {
     return Unescape(text);
 }
 
-bool IsContent(const std::string &line) {
+bool IsContent(const std::string &line)
+{
     return line.starts_with("|") || line.starts_with("+ ");
 }
 
 // Takes a word of a case; returns the text that content lines behind it belong to.
-std::string *TakeCaseWord(Case &job, const std::string &word, const std::string &argument) {
+std::string *TakeCaseWord(Case &job, const std::string &word, const std::string &argument)
+{
     static const std::map<std::string, std::string Case::*> texts = {
         {"ppd", &Case::ppd}, {"user", &Case::user}, {"title", &Case::title}, {"copies", &Case::copies}};
     if (texts.contains(word)) {
@@ -90,7 +95,8 @@ std::string *TakeCaseWord(Case &job, const std::string &word, const std::string 
     return nullptr;
 }
 
-void ReadCases(const std::string &path, CaseFile &file) {
+void ReadCases(const std::string &path, CaseFile &file)
+{
     std::istringstream text(ReadFile(path));
     std::string *content = nullptr;
     for (std::string line; std::getline(text, line);) {
@@ -120,7 +126,8 @@ void ReadCases(const std::string &path, CaseFile &file) {
     }
 }
 
-std::string PPDPath(const CaseFile &file, const Case &job) {
+std::string PPDPath(const CaseFile &file, const Case &job)
+{
     if (job.ppd == "none")
         return "";
     if (job.ppd.starts_with("sample "))
@@ -130,13 +137,15 @@ std::string PPDPath(const CaseFile &file, const Case &job) {
     return path;
 }
 
-void Replace(std::string &text, const std::string &from, const std::string &to) {
+void Replace(std::string &text, const std::string &from, const std::string &to)
+{
     for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
         text.replace(at, from.size(), to);
 }
 
 // Puts {blob:TEXT} in the place of each encrypted password that the expected text has one for.
-void NamePasswords(const std::string &expected, std::string &output) {
+void NamePasswords(const std::string &expected, std::string &output)
+{
     static const std::string mark = "{blob:";
     size_t from = 0;
     for (size_t at = expected.find(mark); at != std::string::npos; at = expected.find(mark, at + 1)) {
@@ -157,7 +166,8 @@ void NamePasswords(const std::string &expected, std::string &output) {
 }
 
 // Control bytes made visible, so that a failure shows which line end differs.
-std::string Visible(const std::string &bytes) {
+std::string Visible(const std::string &bytes)
+{
     std::string text;
     for (unsigned char c : bytes) {
         char code[5] = {static_cast<char>(c), '\0'};
@@ -168,11 +178,30 @@ std::string Visible(const std::string &bytes) {
     return text;
 }
 
-class JobCase : public testing::Test {
+// The first line in which the output differs, and the whole output.
+std::string Difference(const std::string &expected, const std::string &output)
+{
+    std::istringstream expectedLines(Visible(expected)), outputLines(Visible(output));
+    std::string expectedLine, outputLine;
+    size_t number = 0;
+    do {
+        number++;
+        if (!std::getline(expectedLines, expectedLine))
+            expectedLine = "(end)";
+        if (!std::getline(outputLines, outputLine))
+            outputLine = "(end)";
+    } while (expectedLine == outputLine && expectedLine != "(end)");
+    return "line " + std::to_string(number) + "\nexpected " + expectedLine + "\ngot      " + outputLine + "\nin\n" +
+           Visible(output);
+}
+
+class JobCase : public testing::Test
+{
   public:
     JobCase(const CaseFile &theFile, const Case &theCase) : file(theFile), job(theCase) {}
 
-    void TestBody() override {
+    void TestBody() override
+    {
         Job process;
         process.arguments = {"1", job.user, job.title, job.copies, job.options};
         process.ppd = PPDPath(file, job);
@@ -184,7 +213,7 @@ class JobCase : public testing::Test {
             expected += process.input + file.lines.at("trailer");
         NamePasswords(expected, result.output);
         Replace(expected, "{host}", ExpectedHostName(expected.find("STRINGCODESET=UTF8") != std::string::npos));
-        EXPECT_EQ(Visible(expected), Visible(result.output));
+        EXPECT_TRUE(expected == result.output) << Difference(expected, result.output);
         EXPECT_EQ(result.status, 0) << result.messages;
     }
 
@@ -194,7 +223,8 @@ class JobCase : public testing::Test {
 };
 
 // "stored password, user mode" -> "stored_password_user_mode"
-std::string TestName(const std::string &text) {
+std::string TestName(const std::string &text)
+{
     std::string name;
     for (char c : text)
         if (isalnum(static_cast<unsigned char>(c)))
@@ -206,7 +236,8 @@ std::string TestName(const std::string &text) {
 
 } // namespace
 
-int main(int argc, char **argv) {
+int main(int argc, char **argv)
+{
     testing::InitGoogleTest(&argc, argv);
     const std::filesystem::path folder = OV_TEST_DATA "/jobs";
     CaseFile common;
