@@ -27,13 +27,14 @@ static std::vector<char *> Pointers(std::vector<std::string> &texts) {
 [[noreturn]] static void StartFilter(const Job &job, int in, int out, int err) {
     std::vector<std::string> arguments = {job.filter};
     arguments.insert(arguments.end(), job.arguments.begin(), job.arguments.end());
-    std::vector<std::string> environment = {"PATH=/usr/bin:/bin", "TMPDIR=" + TestDirectory(), "LANG=C"};
+    // The first setting of a name counts.
+    std::vector<std::string> environment = job.environment;
+    environment.insert(environment.end(), {"PATH=/usr/bin:/bin", "TMPDIR=" + TestDirectory(), "LANG=C"});
     for (const char *name : {"ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"})
         if (const char *value = getenv(name))
             environment.push_back(std::string(name) + "=" + value);
     if (!job.ppd.empty())
         environment.push_back("PPD=" + job.ppd);
-    environment.insert(environment.end(), job.environment.begin(), job.environment.end());
 
     dup2(in, STDIN_FILENO);
     dup2(out, STDOUT_FILENO);
