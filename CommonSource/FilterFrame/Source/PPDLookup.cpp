@@ -8,8 +8,10 @@
 
 const char KPPDCharEncoding[] = "OVPrinterLanguageEncoding";
 
-static const char DeviceColorModeColor[] = "True";
-static const char DefaultQBColorModeColor[] = "Color";
+const char DeviceColorModeColor[] = "True";
+const char DeviceColorModeMono[] = "False";
+const char DefaultQBColorModeColor[] = "Color";
+const char DefaultQBColorModeBlack[] = "Black";
 
 static ppd_file_t *jobPPD = nullptr;
 static bool jobPPDOpened = false;

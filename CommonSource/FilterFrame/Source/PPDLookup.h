@@ -9,6 +9,12 @@
 // The attribute that names the printer's language encoding; "UTF-8" puts the job in UTF-8 mode.
 extern const char KPPDCharEncoding[];
 
+// Values of the attribute ColorDevice, and two choices of the option OVColorMode.
+extern const char DeviceColorModeColor[];
+extern const char DeviceColorModeMono[];
+extern const char DefaultQBColorModeColor[];
+extern const char DefaultQBColorModeBlack[];
+
 // The open PPD of the queue that the environment variable PPD names; null when there is none.
 ppd_file_t *JobPPD();
 
