@@ -9,7 +9,8 @@
 #include <string_view>
 
 // Whether the sheet lies across: two or six pages on it turn the pages.
-static bool IsSheetLandscape() {
+static bool IsSheetLandscape()
+{
     if (!*psoptioncomment.numberUp)
         return false;
     const int pages = atoi(psoptioncomment.numberUp);
@@ -19,7 +20,8 @@ static bool IsSheetLandscape() {
     return orientation == 4 || orientation == 5;
 }
 
-static void OutputBinding() {
+static void OutputBinding()
+{
     const std::string_view volume = psoptioncomment.signatureVolume;
     if (strcmp(psoptioncomment.signature, kChoiceNone) == 0) {
         QBfputs("@PJL SET JOBATTR=\"@DIBB=OFF\"\n", stdout);
@@ -36,7 +38,8 @@ static void OutputBinding() {
         QBfputs("@PJL SET JOBATTR=\"@DIBK=MANUALDIVIDE\"\n", stdout);
 }
 
-void OutputZPJLCommandforBooklet() {
+void OutputZPJLCommandforBooklet()
+{
     if (!UTF8Mode)
         return;
     QBfputs(IsSheetLandscape() ? "@PJL SET JOBATTR=\"@DIND=LANDSCAPE\"\n" : "@PJL SET JOBATTR=\"@DIND=PORTRAIT\"\n",

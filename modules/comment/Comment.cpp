@@ -68,7 +68,8 @@ static const DuplexLine duplexLines[] = {
     {kOneSided, 1, "@PJL COMMENT PRINTJOBINFO DUPLEXTYPE=SIMPLEX\n"},
 };
 
-void CommentGetTicketFromPDE(const char *const *argv) {
+void CommentGetTicketFromPDE(const char *const *argv)
+{
     psoptioncomment = {};
     GetTicketFromArray(argv, CommentticketData, std::size(CommentticketData));
 
@@ -92,7 +93,8 @@ void CommentGetTicketFromPDE(const char *const *argv) {
         psoptioncomment.layoutDirection = 1;
 }
 
-JobColor CommentJobColor() {
+JobColor CommentJobColor()
+{
     const std::string_view mode = psoptioncomment.colorMode;
     if (mode.empty())
         return IsColorDeivce() == 1 && getDefaultColorMode() == 1 ? JobColor::Color : JobColor::Grayscale;
@@ -103,25 +105,30 @@ JobColor CommentJobColor() {
     return PPDHasOption(kColorModeTicketKey) ? JobColor::Unstated : JobColor::Grayscale;
 }
 
-void OutputZPJLCommandforCommentVersionLow() {
+void OutputZPJLCommandforCommentVersionLow()
+{
     QBfputs("@PJL COMMENT PRINTJOBINFO VERSION=1.3.0\n", stdout);
 }
 
-void OutputZPJLCommandforCommentVersionHigh() {
+void OutputZPJLCommandforCommentVersionHigh()
+{
     QBfputs("@PJL COMMENT PRINTJOBINFO VERSION=1.5.0\n", stdout);
 }
 
-void OutputZPJLCommandforCommentBegin() {
+void OutputZPJLCommandforCommentBegin()
+{
     QBfputs("@PJL COMMENT PRINTJOBINFO BEGIN\n", stdout);
     QBfputs("@PJL COMMENT PRINTJOBINFO PDLTYPE=PDL[POSTSCRIPT]:VERSION[3]\n", stdout);
     QBfputs("@PJL COMMENT PRINTJOBINFO JOBTYPE=PRINT\n", stdout);
 }
 
-void OutputZPJLCommandforCommentEnd() {
+void OutputZPJLCommandforCommentEnd()
+{
     QBfputs("@PJL COMMENT PRINTJOBINFO END\n", stdout);
 }
 
-static void OutputCopies() {
+static void OutputCopies()
+{
     const std::string_view collate = psoptioncomment.collate;
     if (collate.empty())
         return;
@@ -134,7 +141,8 @@ static void OutputCopies() {
     }
 }
 
-static void OutputDuplex() {
+static void OutputDuplex()
+{
     const std::string_view sides = psoptioncomment.sides;
     if (sides.empty())
         return;
@@ -146,7 +154,8 @@ static void OutputDuplex() {
     }
 }
 
-static void OutputColorMode() {
+static void OutputColorMode()
+{
     switch (CommentJobColor()) {
     case JobColor::Color:
         QBfputs("@PJL COMMENT PRINTJOBINFO COLORMODE=COLOR\n", stdout);
@@ -159,12 +168,14 @@ static void OutputColorMode() {
     }
 }
 
-static void OutputNumberUp() {
+static void OutputNumberUp()
+{
     if (*psoptioncomment.numberUp)
         QBfprintfCut(stdout, kDirectLineSize, "@PJL COMMENT PRINTJOBINFO NUP=%s\n", psoptioncomment.numberUp);
 }
 
-static void OutputStaple() {
+static void OutputStaple()
+{
     const std::string_view staple = psoptioncomment.staple;
     if (staple.empty())
         return;
@@ -173,7 +184,8 @@ static void OutputStaple() {
     QBfputs(off ? "@PJL COMMENT PRINTJOBINFO STAPLE=OFF\n" : "@PJL COMMENT PRINTJOBINFO STAPLE=ON\n", stdout);
 }
 
-static void OutputPunch() {
+static void OutputPunch()
+{
     const std::string_view punch = psoptioncomment.punch;
     if (punch.empty())
         return;
@@ -181,7 +193,8 @@ static void OutputPunch() {
     QBfputs(off ? "@PJL COMMENT PRINTJOBINFO PUNCH=OFF\n" : "@PJL COMMENT PRINTJOBINFO PUNCH=ON\n", stdout);
 }
 
-static void OutputBookletType() {
+static void OutputBookletType()
+{
     const std::string_view signature = psoptioncomment.signature;
     const std::string_view volume = psoptioncomment.signatureVolume;
     if (signature.empty())
@@ -200,7 +213,8 @@ static void OutputBookletType() {
     }
 }
 
-void OutputZPJLCommandforCommentBasic() {
+void OutputZPJLCommandforCommentBasic()
+{
     OutputCopies();
     OutputDuplex();
     OutputColorMode();

@@ -76,7 +76,8 @@ static const TextOutput punchHoleCounts[] = {
     {"CoilPunch", "COIL"},
 };
 
-static Signature SignatureOfJob() {
+static Signature SignatureOfJob()
+{
     const std::string_view signature = psoptioncomment.signature;
     if (signature.empty() || signature == kChoiceNone)
         return Signature::None;
@@ -87,7 +88,8 @@ static Signature SignatureOfJob() {
     return Signature::Other;
 }
 
-static Pages PagesOfJob() {
+static Pages PagesOfJob()
+{
     if (!*psoptioncomment.numberUp)
         return Pages::One;
     switch (atoi(psoptioncomment.numberUp)) {
@@ -105,7 +107,8 @@ static Pages PagesOfJob() {
     }
 }
 
-static const char *OrientationLine(const OrientationLines &row) {
+static const char *OrientationLine(const OrientationLines &row)
+{
     switch (psoptioncomment.orientation) {
     case 1:
         return row.portrait;
@@ -120,7 +123,8 @@ static const char *OrientationLine(const OrientationLines &row) {
     }
 }
 
-static void OutputOrientation() {
+static void OutputOrientation()
+{
     const Signature signature = SignatureOfJob();
     const Pages pages = PagesOfJob();
     for (const OrientationLines &row : orientationLines)
@@ -128,7 +132,8 @@ static void OutputOrientation() {
             QBfputs(OrientationLine(row), stdout);
 }
 
-static void OutputLayoutOrder() {
+static void OutputLayoutOrder()
+{
     const int pages = atoi(psoptioncomment.numberUp);
     if (pages < 2)
         return;
@@ -137,7 +142,8 @@ static void OutputLayoutOrder() {
             QBfputs(pages == 2 ? row.two : row.more, stdout);
 }
 
-static void OutputSaddleStaple() {
+static void OutputSaddleStaple()
+{
     const std::string_view signature = psoptioncomment.signature;
     if (signature.empty())
         return;
@@ -146,7 +152,8 @@ static void OutputSaddleStaple() {
             stdout);
 }
 
-static void OutputStaplePosition() {
+static void OutputStaplePosition()
+{
     for (const TextOutput &row : stapleLines) {
         if (strstr(psoptioncomment.staple, row.text)) {
             QBfputs(row.output, stdout);
@@ -155,7 +162,8 @@ static void OutputStaplePosition() {
     }
 }
 
-static void OutputPunchPosition() {
+static void OutputPunchPosition()
+{
     for (const TextOutput &location : punchLocations) {
         if (!strstr(psoptioncomment.punch, location.text))
             continue;
@@ -167,7 +175,8 @@ static void OutputPunchPosition() {
     }
 }
 
-void OutputZPJLCommandforCommentAdvanced() {
+void OutputZPJLCommandforCommentAdvanced()
+{
     OutputOrientation();
     OutputLayoutOrder();
     OutputSaddleStaple();

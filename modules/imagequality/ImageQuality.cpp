@@ -29,7 +29,8 @@ constexpr size_t kRatePrefixLength = 7;
 constexpr size_t kRateNumberLength = 7;
 constexpr int kMaxReductionRate = 99;
 
-static void OutputReductionRate() {
+static void OutputReductionRate()
+{
     const std::string_view choice = psoptioncomment.tonerReductionRate;
     if (choice.size() <= kRatePrefixLength)
         return;
@@ -40,7 +41,8 @@ static void OutputReductionRate() {
     QBfprintfCut(stdout, kDirectLineSize, "@PJL SET REDUCTIONRATE=%d\n", rate);
 }
 
-void OutputZPJLCommandForTonerSaver() {
+void OutputZPJLCommandForTonerSaver()
+{
     const std::string_view choice = psoptioncomment.tonerSaver;
     if (choice.empty())
         return;
@@ -54,7 +56,8 @@ void OutputZPJLCommandForTonerSaver() {
     QBfputs("@PJL SET REDUCTIONRATE=0\n", stdout);
 }
 
-static void OutputLineWeight() {
+static void OutputLineWeight()
+{
     const std::string_view weight = psoptioncomment.lineWeight;
     if (weight == "Normal") {
         QBfputs("@PJL SET JOBATTR=\"@LWAD=0\"\n", stdout);
@@ -70,7 +73,8 @@ static void OutputLineWeight() {
         QBfprintfCut(stdout, kDirectLineSize, "@PJL SET JOBATTR=\"@LWAD=%c\"\n", weight[digit]);
 }
 
-static void OutputRenderMode() {
+static void OutputRenderMode()
+{
     switch (CommentJobColor()) {
     case JobColor::Color:
         QBfputs("@PJL SET RENDERMODE=COLOR\n", stdout);
@@ -83,12 +87,14 @@ static void OutputRenderMode() {
     }
 }
 
-void OutputZPJLCommandOthers() {
+void OutputZPJLCommandOthers()
+{
     OutputLineWeight();
     OutputRenderMode();
 }
 
-void OutputZPJLCommandLanguageEncoding() {
+void OutputZPJLCommandLanguageEncoding()
+{
     if (UTF8Mode)
         QBfputs("@PJL SET STRINGCODESET=UTF8\n", stdout);
 }
