@@ -1,5 +1,8 @@
 #include "JobHeader.h"
 
+#include "Booklet.h"
+#include "Comment.h"
+#include "ImageQuality.h"
 #include "ModuleDispatch.h"
 #include "PPDLookup.h"
 #include "ProductConfig.h"
@@ -61,9 +64,17 @@ bool IsSpooledMode() {
 
 void OutputZPJLCommand(const char *const *argv) {
     OutputZPJLCommandFromArray(argv, prtFmtTableZPJLHead, numFmtTableZPJLHead);
+    OutputZPJLCommandLanguageEncoding();
     OutputZPJLCommandFromArray(argv, prtFmtTableZPJLJobMode, numFmtTableZPJLJobMode);
     OutputZPJLCommandFromFilter(argv);
+    OutputZPJLCommandforBooklet();
+    OutputZPJLCommandForTonerSaver();
+    OutputZPJLCommandOthers();
     if (IsCommentWanted()) {
+        OutputZPJLCommandforCommentVersionLow();
+        OutputZPJLCommandforCommentBegin();
+        OutputZPJLCommandforCommentBasic();
+        OutputZPJLCommandforCommentEnd();
     }
     if (!IsSpooledMode())
         OutputZPJLCommandFromArray(argv, prtFmtTableEnterPS, numFmtTableEnterPS);

@@ -1,5 +1,6 @@
 #include "ModuleDispatch.h"
 
+#include "Comment.h"
 #include "JBA.h"
 #include "PrintType.h"
 
@@ -13,6 +14,7 @@ int32_t GetTicketFromPDE(const char *const *argv)
 {
     PrintTypeGetTicketFromPDE(argv);
     JBAGetTicketFromPDE(argv);
+    CommentGetTicketFromPDE(argv);
     return 1;
 }
 

@@ -85,10 +85,10 @@ static void OutputFeature(std::string_view line, FeatureState &state) {
             if (strcmp(value, resolution.value) == 0)
                 state.resolution = resolution.command;
 
-    if (PPDAttributeIs("ColorDevice", "False")) {
+    if (PPDAttributeIs("ColorDevice", DeviceColorModeMono)) {
         if (IsKeyword(keyword, KPPDHalfToneKey))
             OutputHalftone(value);
-    } else if (state.defaultsPending && PPDAttributeIs("ColorDevice", "True")) {
+    } else if (state.defaultsPending && PPDAttributeIs("ColorDevice", DeviceColorModeColor)) {
         OutputPJLCommandForPPDKeyArray(PPDKeyArray, JobPPD());
         state.defaultsPending = false;
     }
