@@ -1,0 +1,17 @@
+// InjectionEvents: the points of a document at which modules put PostScript of their own.
+// Each is a marker line of the document; 25, 26 and 29 have none.
+#pragma once
+
+#include <cstdint>
+
+enum InjectionEvent : int32_t {
+    kEventBeginProlog = 13,     // after "%%BeginProlog"
+    kEventEndProlog = 14,       // before the first "%%EndProlog"
+    kEventEndSetup = 16,        // before "%%EndSetup"
+    kEventNoPageDevice = 21,    // before the line that disables setpagedevice, which only N-up documents hold
+    kEventBeginPage = 23,       // after "bp"
+    kEventEndPageSetup = 24,    // after "%%EndPageSetup"
+    kEventEndPage = 27,         // before "ep"
+    kEventEndPageOfPM = 28,     // before "endp"
+    kEventEndPageOfFilter = 29, // a page between this filter's own save and restore
+};
