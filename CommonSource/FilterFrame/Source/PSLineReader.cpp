@@ -1,5 +1,6 @@
 #include "PSLineReader.h"
 
+#include "InjectionEvents.h"
 #include "JobState.h"
 #include "ModuleDispatch.h"
 #include "SystemVersion.h"
@@ -13,14 +14,14 @@
 static constexpr int32_t kFirstPageLogVersion = 0x1070;
 
 static const PSMarker markers[] = {
-    {"%%BeginProlog", 13, kInjectAfter},
-    {"%%EndProlog", 14, kInjectBefore | kFirstOnly},
-    {"%%EndSetup", 16, kInjectBefore},
-    {"userdict/setpagedevice{pop}bind put", 21, kInjectBefore},
-    {"bp", 23, kInjectAfter},
-    {"%%EndPageSetup", 24, kInjectAfter},
-    {"ep", 27, kInjectBefore | kCountPage | kLogPage | kPageEnd},
-    {"endp", 28, kInjectBefore | kCountPage | kPageEnd},
+    {"%%BeginProlog", kEventBeginProlog, kInjectAfter},
+    {"%%EndProlog", kEventEndProlog, kInjectBefore | kFirstOnly},
+    {"%%EndSetup", kEventEndSetup, kInjectBefore},
+    {"userdict/setpagedevice{pop}bind put", kEventNoPageDevice, kInjectBefore},
+    {"bp", kEventBeginPage, kInjectAfter},
+    {"%%EndPageSetup", kEventEndPageSetup, kInjectAfter},
+    {"ep", kEventEndPage, kInjectBefore | kCountPage | kLogPage | kPageEnd},
+    {"endp", kEventEndPageOfPM, kInjectBefore | kCountPage | kPageEnd},
     {"showpage", 0, kPageEnd},
 };
 
