@@ -120,7 +120,7 @@ void ReadCases(const std::string &path, CaseFile &file)
         else if (word == "ppd" && defines)
             content = &(file.ppds[argument] = "");
         else if (file.cases.empty() && word == "document")
-            content = &file.document;
+            content = &(file.document = "");
         else
             content = TakeCaseWord(file.cases.at(file.cases.size() - 1), word, argument);
     }
