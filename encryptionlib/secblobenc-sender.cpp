@@ -32,7 +32,8 @@ struct Sealed {
     uint32_t payloadLen;
 };
 
-static const unsigned char *KeyIdentifier(int32_t keyType) {
+static const unsigned char *KeyIdentifier(int32_t keyType)
+{
     switch (keyType) {
     case 0:
         return pubkey2048_OFFICIAL_SHA256;
@@ -44,7 +45,8 @@ static const unsigned char *KeyIdentifier(int32_t keyType) {
 }
 
 static uint32_t Seal(int32_t aesMode, const unsigned char *data, uint32_t dataLen, const char *publicKeyBase64,
-                     uint32_t publicKeyLen, Secrets &secrets, Sealed &sealed) {
+                     uint32_t publicKeyLen, Secrets &secrets, Sealed &sealed)
+{
     const auto capacity = static_cast<uint32_t>(sealed.payload.size());
     sealed.ivLen = aesMode == 0 ? kIVBytesOther : kIVBytesCBC;
     if (const uint32_t status = SecBlobEncInternal_GenerateRandom(kSecretBytes, secrets.secret))
@@ -67,25 +69,28 @@ static uint32_t Seal(int32_t aesMode, const unsigned char *data, uint32_t dataLe
     return kSecBlobEncSuccess;
 }
 
-static unsigned char *PutByte(unsigned char *out, int32_t value) {
+static unsigned char *PutByte(unsigned char *out, int32_t value)
+{
     *out = static_cast<unsigned char>(value);
     return out + 1;
 }
 
-static unsigned char *PutLittleEndian(unsigned char *out, uint32_t value) {
+static unsigned char *PutLittleEndian(unsigned char *out, uint32_t value)
+{
     for (int32_t shift = 0; shift < 32; shift += 8)
         out = PutByte(out, static_cast<int32_t>(value >> shift & 0xFF));
     return out;
 }
 
-static unsigned char *PutBytes(unsigned char *out, const unsigned char *bytes, uint32_t count) {
+static unsigned char *PutBytes(unsigned char *out, const unsigned char *bytes, uint32_t count)
+{
     memcpy(out, bytes, count);
     return out + count;
 }
 
 uint32_t SecBlobEnc_KT_Encrypt(int32_t aesMode, int32_t keyType, const unsigned char *data, uint32_t dataLen,
-                               const char *publicKeyBase64, uint32_t publicKeyLen, unsigned char *out,
-                               uint32_t *outLen) {
+                               const char *publicKeyBase64, uint32_t publicKeyLen, unsigned char *out, uint32_t *outLen)
+{
     if (dataLen >= kFirstTooLong) {
         printf("ERROR[%d]: too long bufLen [%d].\n", 88, static_cast<int32_t>(dataLen));
         return kSecBlobEncBadArgument;

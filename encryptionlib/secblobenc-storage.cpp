@@ -17,7 +17,8 @@ static const StorageDirection storageDecrypt = {SecBlobEncInternal_AESDecrypt, "
 static uint32_t RunStorage(const StorageDirection &direction, const unsigned char *data, uint32_t dataLen,
                            const unsigned char *hmacKey, uint32_t hmacKeyLen, const unsigned char *hmacMessage,
                            uint32_t hmacMessageLen, const unsigned char *iv, uint32_t ivLen, unsigned char *out,
-                           uint32_t *outLen) {
+                           uint32_t *outLen)
+{
     unsigned char key[kPlatformHMACBytes];
     uint32_t status = SecBlobEncInternal_GenerateHMAC(hmacKey, hmacKeyLen, hmacMessage, hmacMessageLen, key);
     if (status != kSecBlobEncSuccess) {
@@ -33,14 +34,16 @@ static uint32_t RunStorage(const StorageDirection &direction, const unsigned cha
 
 uint32_t SecBlobEnc_DataStorage_Encrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
                                         uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
-                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen) {
+                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen)
+{
     return RunStorage(storageEncrypt, data, dataLen, hmacKey, hmacKeyLen, hmacMessage, hmacMessageLen, iv, ivLen, out,
                       outLen);
 }
 
 uint32_t SecBlobEnc_DataStorage_Decrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
                                         uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
-                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen) {
+                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen)
+{
     return RunStorage(storageDecrypt, data, dataLen, hmacKey, hmacKeyLen, hmacMessage, hmacMessageLen, iv, ivLen, out,
                       outLen);
 }

@@ -20,12 +20,14 @@ static constexpr std::array<unsigned char, 128> B64TBL = [] {
     return table;
 }();
 
-static uint32_t ValueOf(unsigned char character) {
+static uint32_t ValueOf(unsigned char character)
+{
     return character < B64TBL.size() ? B64TBL[character] : 255;
 }
 
 // Takes the next character that is no white space off the text; "=" at its end.
-static unsigned char TakeCharacter(std::string_view &text) {
+static unsigned char TakeCharacter(std::string_view &text)
+{
     while (!text.empty()) {
         const auto character = static_cast<unsigned char>(text.front());
         text.remove_prefix(1);
@@ -36,7 +38,8 @@ static unsigned char TakeCharacter(std::string_view &text) {
 }
 
 int32_t ZSPEncrypt(const unsigned char *input, int32_t length, unsigned char *output, int32_t *outLength,
-                   int32_t capacity) {
+                   int32_t capacity)
+{
     if (!input || !output || !outLength)
         return kZSPNullPointer;
     if (length <= 0 || capacity <= 0)
@@ -53,7 +56,8 @@ int32_t ZSPEncrypt(const unsigned char *input, int32_t length, unsigned char *ou
     return kZSPSuccess;
 }
 
-int32_t ZSPBinToB64(const unsigned char *input, int32_t length, char *output, int32_t *outLength, int32_t capacity) {
+int32_t ZSPBinToB64(const unsigned char *input, int32_t length, char *output, int32_t *outLength, int32_t capacity)
+{
     if (!input || !outLength || (capacity != 0 && !output))
         return kZSPNullPointer;
     const int64_t needed = (int64_t{length} + 2) / 3 * 4;
@@ -75,7 +79,8 @@ int32_t ZSPBinToB64(const unsigned char *input, int32_t length, char *output, in
     return kZSPSuccess;
 }
 
-int32_t ZSPB64ToBin(const char *input, int32_t length, unsigned char *output, int32_t *outLength, int32_t capacity) {
+int32_t ZSPB64ToBin(const char *input, int32_t length, unsigned char *output, int32_t *outLength, int32_t capacity)
+{
     if (!input || !outLength || (capacity != 0 && !output))
         return kZSPNullPointer;
     if (length <= 0 || capacity < 0 || length % 4 != 0)

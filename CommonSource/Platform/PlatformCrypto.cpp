@@ -21,7 +21,8 @@ using Key = std::unique_ptr<EVP_PKEY, Closer<EVP_PKEY_free>>;
 using KeyContext = std::unique_ptr<EVP_PKEY_CTX, Closer<EVP_PKEY_CTX_free>>;
 
 // Tells what the library failed with first, the cause of what followed, and forgets it. Returns its reason code.
-static int32_t TakeLibraryError(PlatformError &error) {
+static int32_t TakeLibraryError(PlatformError &error)
+{
     const unsigned long code = ERR_get_error();
     const char *text = ERR_reason_error_string(code);
     error.code = ERR_GET_REASON(code);
@@ -32,18 +33,21 @@ static int32_t TakeLibraryError(PlatformError &error) {
     return error.code;
 }
 
-static int32_t TakeLibraryError() {
+static int32_t TakeLibraryError()
+{
     PlatformError error;
     return TakeLibraryError(error);
 }
 
 static bool AESArgumentsHold(std::span<const unsigned char> key, std::span<const unsigned char> iv,
-                             std::span<const unsigned char> data) {
+                             std::span<const unsigned char> data)
+{
     return key.size() == 32 && iv.size() == kPlatformAESBlockBytes &&
            data.size() <= static_cast<size_t>(INT_MAX) - kPlatformAESBlockBytes;
 }
 
-int32_t PlatformRandomBytes(std::span<unsigned char> out) {
+int32_t PlatformRandomBytes(std::span<unsigned char> out)
+{
     ERR_clear_error();
     const bool done = RAND_bytes_ex(nullptr, out.data(), out.size(), 0) == 1;
     ERR_clear_error();
@@ -51,7 +55,8 @@ int32_t PlatformRandomBytes(std::span<unsigned char> out) {
 }
 
 int32_t PlatformHMACSHA256(std::span<const unsigned char> key, std::span<const unsigned char> message,
-                           std::span<unsigned char, kPlatformHMACBytes> out) {
+                           std::span<unsigned char, kPlatformHMACBytes> out)
+{
     ERR_clear_error();
     size_t length = 0;
     if (!EVP_Q_mac(nullptr, "HMAC", nullptr, "SHA256", nullptr, key.data(), key.size(), message.data(), message.size(),
@@ -61,7 +66,8 @@ int32_t PlatformHMACSHA256(std::span<const unsigned char> key, std::span<const u
 }
 
 int32_t PlatformAESCBCEncrypt(std::span<const unsigned char> key, std::span<const unsigned char> iv,
-                              std::span<const unsigned char> data, std::span<unsigned char> out, size_t &outLen) {
+                              std::span<const unsigned char> data, std::span<unsigned char> out, size_t &outLen)
+{
     if (!AESArgumentsHold(key, iv, data))
         return kPlatformBadArgument;
     if (out.size() < (data.size() / kPlatformAESBlockBytes + 1) * kPlatformAESBlockBytes)
@@ -79,7 +85,8 @@ int32_t PlatformAESCBCEncrypt(std::span<const unsigned char> key, std::span<cons
 }
 
 int32_t PlatformAESCBCDecrypt(std::span<const unsigned char> key, std::span<const unsigned char> iv,
-                              std::span<const unsigned char> data, std::span<unsigned char> out, size_t &outLen) {
+                              std::span<const unsigned char> data, std::span<unsigned char> out, size_t &outLen)
+{
     if (!AESArgumentsHold(key, iv, data))
         return kPlatformBadArgument;
     if (data.size() % kPlatformAESBlockBytes != 0)
@@ -111,7 +118,8 @@ int32_t PlatformAESCBCDecrypt(std::span<const unsigned char> key, std::span<cons
 }
 
 int32_t PlatformRSAOAEPEncrypt(std::span<const unsigned char> publicKey, std::span<const unsigned char> data,
-                               std::span<unsigned char> out, size_t &outLen, PlatformError &error) {
+                               std::span<unsigned char> out, size_t &outLen, PlatformError &error)
+{
     error = {};
     ERR_clear_error();
     const unsigned char *der = publicKey.data();
@@ -134,7 +142,8 @@ int32_t PlatformRSAOAEPEncrypt(std::span<const unsigned char> publicKey, std::sp
     return 0;
 }
 
-bool PlatformBase64Decode(std::string_view text, std::vector<unsigned char> &data) {
+bool PlatformBase64Decode(std::string_view text, std::vector<unsigned char> &data)
+{
     data.clear();
     // To the library a "-" is where the text ends; to us it is no base64.
     if (text.size() > INT_MAX || text.find('-') != std::string_view::npos)
@@ -156,6 +165,7 @@ bool PlatformBase64Decode(std::string_view text, std::vector<unsigned char> &dat
     return !data.empty();
 }
 
-void PlatformWipe(void *memory, size_t size) {
+void PlatformWipe(void *memory, size_t size)
+{
     OPENSSL_cleanse(memory, size);
 }

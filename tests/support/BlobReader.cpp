@@ -16,7 +16,8 @@ using Key = std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)>;
 // Offsets and sizes of a blob for a 2048-bit key, AES in CBC mode.
 constexpr size_t kIdentifier = 16, kSalt = 48, kWrappedKey = 80, kVector = 336, kPayload = 352;
 
-static Key PrivateKey() {
+static Key PrivateKey()
+{
     FILE *file = fopen(OV_TEST_DATA "/keys/development-2048.pem", "r");
     Key key(file ? PEM_read_PrivateKey(file, nullptr, nullptr, nullptr) : nullptr, EVP_PKEY_free);
     if (file)
@@ -24,7 +25,8 @@ static Key PrivateKey() {
     return key;
 }
 
-static Bytes FromBase64(std::string_view text) {
+static Bytes FromBase64(std::string_view text)
+{
     Bytes bytes(text.size() + 1);
     const int length = text.size() % 4
                            ? -1
@@ -38,12 +40,14 @@ static Bytes FromBase64(std::string_view text) {
     return bytes;
 }
 
-static size_t LittleEndian(const Bytes &blob, size_t offset) {
+static size_t LittleEndian(const Bytes &blob, size_t offset)
+{
     return blob[offset] | static_cast<size_t>(blob[offset + 1]) << 8 | static_cast<size_t>(blob[offset + 2]) << 16 |
            static_cast<size_t>(blob[offset + 3]) << 24;
 }
 
-static Bytes IdentifierOf(EVP_PKEY *key) {
+static Bytes IdentifierOf(EVP_PKEY *key)
+{
     unsigned char *der = nullptr;
     const int derLength = i2d_PUBKEY(key, &der);
     Bytes digest(32);
@@ -53,7 +57,8 @@ static Bytes IdentifierOf(EVP_PKEY *key) {
     return done ? digest : Bytes();
 }
 
-static bool HeaderHolds(const Bytes &blob, EVP_PKEY *key) {
+static bool HeaderHolds(const Bytes &blob, EVP_PKEY *key)
+{
     if (blob.size() < kPayload + 16)
         return false;
     const unsigned char start[] = {0x08, 0x01}, modeTypeReserved[] = {1, 0, 0, 0, 0, 0};
@@ -63,7 +68,8 @@ static bool HeaderHolds(const Bytes &blob, EVP_PKEY *key) {
            Bytes(blob.begin() + kIdentifier, blob.begin() + kSalt) == IdentifierOf(key);
 }
 
-static Bytes UnwrapKey(const Bytes &blob, EVP_PKEY *key) {
+static Bytes UnwrapKey(const Bytes &blob, EVP_PKEY *key)
+{
     const std::unique_ptr<EVP_PKEY_CTX, decltype(&EVP_PKEY_CTX_free)> context(EVP_PKEY_CTX_new(key, nullptr),
                                                                               EVP_PKEY_CTX_free);
     Bytes plain(256);
@@ -78,7 +84,8 @@ static Bytes UnwrapKey(const Bytes &blob, EVP_PKEY *key) {
     return plain;
 }
 
-bool OpenPasswordBlob(std::string_view base64, std::string &plain) {
+bool OpenPasswordBlob(std::string_view base64, std::string &plain)
+{
     plain.clear();
     const Bytes blob = FromBase64(base64);
     const Key key = PrivateKey();

@@ -23,7 +23,8 @@ struct PasswordWork {
 };
 
 // Fills the destination, of which nothing is left when 0 is returned.
-static int32_t ConvertPassword(const char *value, char *destination, int32_t size, PasswordWork &work) {
+static int32_t ConvertPassword(const char *value, char *destination, int32_t size, PasswordWork &work)
+{
     CopyCut(work.text, value);
     numstrtochar(work.text, sizeof work.text);
     ConvertUTF8ToEncoding(work.text, destination, size);
@@ -53,7 +54,8 @@ static int32_t ConvertPassword(const char *value, char *destination, int32_t siz
 }
 
 int32_t GetTicketPasswordStringConvertedToEncryption(const char *key, int32_t optionCount, cups_option_t *options,
-                                                     void *destination, int32_t size) {
+                                                     void *destination, int32_t size)
+{
     if (size <= 0)
         return 0;
     memset(destination, 0, static_cast<size_t>(size));
