@@ -4,8 +4,10 @@
 #include "Comment.h"
 #include "ImageQuality.h"
 #include "ModuleDispatch.h"
+#include "PBind.h"
 #include "PPDLookup.h"
 #include "ProductConfig.h"
+#include "SpecialPage.h"
 
 #include <cstring>
 #include <iterator>
@@ -67,9 +69,11 @@ void OutputZPJLCommand(const char *const *argv) {
     OutputZPJLCommandLanguageEncoding();
     OutputZPJLCommandFromArray(argv, prtFmtTableZPJLJobMode, numFmtTableZPJLJobMode);
     OutputZPJLCommandFromFilter(argv);
+    OutputZPJLCommandforPerfectBind();
     OutputZPJLCommandforBooklet();
     OutputZPJLCommandForTonerSaver();
     OutputZPJLCommandOthers();
+    OutputZPJLCommandForSpecialPage(argv);
     if (IsCommentWanted()) {
         OutputZPJLCommandforCommentVersionLow();
         OutputZPJLCommandforCommentBegin();

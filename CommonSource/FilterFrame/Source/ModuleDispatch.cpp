@@ -3,7 +3,9 @@
 #include "Comment.h"
 #include "Features.h"
 #include "JBA.h"
+#include "PBind.h"
 #include "PrintType.h"
+#include "SpecialPage.h"
 #include "Watermark.h"
 
 void InializeDescriptionTableFromFilter()
@@ -11,6 +13,7 @@ void InializeDescriptionTableFromFilter()
     PrintTypeInializeDescriptionTableFromFilter();
     JBAInializeDescriptionTableFromFilter();
     FeaturesInializeDescriptionTableFromFilter();
+    SpecialPageInializeDescriptionTable();
 }
 
 int32_t GetTicketFromPDE(const char *const *argv)
@@ -19,7 +22,9 @@ int32_t GetTicketFromPDE(const char *const *argv)
     JBAGetTicketFromPDE(argv);
     FeaturesGetTicketFromPDE(argv);
     WatermarkGetTicketFromPDE(argv);
+    PBindGetTicketFromPDE(argv);
     CommentGetTicketFromPDE(argv);
+    SpecialPageGetTicketFromPDE(argv);
     return 1;
 }
 
