@@ -109,6 +109,7 @@ TEST(Password, OpensWithTheCommandLine)
         size_t sentLength;
         std::string lengths; // of the payload and of the blob, little-endian
     } cases[] = {
+        {"", 492, "\x10\0\0\0\x70\x01\0\0"s},
         {"secret", 492, "\x10\0\0\0\x70\x01\0\0"s},
         {"sixteen bytes ..", 512, "\x20\0\0\0\x80\x01\0\0"s},
         {std::string(239, 'x'), 792, "\xF0\0\0\0\x50\x02\0\0"s},
