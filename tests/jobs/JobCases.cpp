@@ -169,8 +169,9 @@ void NamePasswords(const std::string &expected, std::string &output)
 std::string Visible(const std::string &bytes)
 {
     std::string text;
-    for (unsigned char c : bytes) {
-        char code[5] = {static_cast<char>(c), '\0'};
+    for (const char byte : bytes) {
+        const auto c = static_cast<unsigned char>(byte);
+        char code[5] = {byte, '\0'};
         if (c != '\n' && (c < 0x20 || c >= 0x7F))
             snprintf(code, sizeof code, "\\x%02X", c);
         text += code;

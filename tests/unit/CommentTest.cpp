@@ -187,3 +187,18 @@ TEST_F(CommentAdvanced, LinesComeInTheirOrder)
               "@PJL COMMENT PRINTJOBINFO MIXEDSIZETYPE=NONE\n"
               "@PJL COMMENT PRINTJOBINFO CUD=OFF\n");
 }
+
+// Only the advanced lines use these two options.
+TEST_F(CommentAdvanced, LayoutDirectionAndHolesAreReadFromTheJob)
+{
+    const char *argv[] = {"filter", "1", "taro", "Report", "1", "number-up=4 OVPunch=Left OVNumPunchHoles=2Holes",
+                          nullptr};
+    CommentGetTicketFromPDE(argv);
+    EXPECT_EQ(ValueOf("NUPEX="), "RIGHTTHENDOWN");
+    EXPECT_EQ(ValueOf("PUNCHEX="), "HOLES[TWO]:LOCATION[LEFT]");
+
+    argv[5] = "number-up=4 com.apple.print.PrintSettings.PMLayoutDirection..n.=6";
+    CommentGetTicketFromPDE(argv);
+    EXPECT_EQ(ValueOf("NUPEX="), "DOWNTHENLEFT");
+    EXPECT_EQ(ValueOf("PUNCHEX="), "");
+}
