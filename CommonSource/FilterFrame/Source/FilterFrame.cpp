@@ -19,6 +19,7 @@
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -54,6 +55,13 @@ static void ReserveStandardDescriptors() {
     while (descriptor >= 0 && descriptor <= STDERR_FILENO);
     if (descriptor > STDERR_FILENO)
         close(descriptor);
+}
+
+// A core file would hold the job's passwords.
+static void ForbidCoreFiles()
+{
+    const struct rlimit none = {0, 0};
+    setrlimit(RLIMIT_CORE, &none);
 }
 
 static void TakeUserName(const char *user) {
@@ -157,6 +165,7 @@ static int RunJob(int argc, const char *const *argv) {
 
 int FilterMain(int argc, const char *const *argv) {
     ReserveStandardDescriptors();
+    ForbidCoreFiles();
     if (argc < 6) {
         fputs("Usage: pstoorvane job-id user title copies options [file]\n", stderr);
         return 1;
