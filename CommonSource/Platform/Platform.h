@@ -22,8 +22,8 @@ bool PlatformDecodeUTF8(std::string_view text, std::u16string &units);
 bool PlatformDecodeShiftJIS(std::string_view text, std::u16string &units);
 
 // Encode one unit on its own. Return the number of bytes written to `out`, 0 when the encoding has none for it; a
-// surrogate never has. ASCII stays ASCII, also "\" and "~", for which Shift-JIS tables have other signs; Shift-JIS codes
-// 0x8540 to 0x869E count as none.
+// surrogate never has. ASCII stays ASCII, also "\" and "~", for which Shift-JIS tables have other signs; Shift-JIS
+// codes 0x8540 to 0x869E count as none.
 size_t PlatformEncodeUTF8(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out);
 size_t PlatformEncodeShiftJIS(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out);
 

@@ -12,11 +12,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-std::vector<std::string> JobArguments(const std::string &options, const std::string &user, const std::string &title) {
+std::vector<std::string> JobArguments(const std::string &options, const std::string &user, const std::string &title)
+{
     return {"1", user, title, "1", options};
 }
 
-static std::vector<char *> Pointers(std::vector<std::string> &texts) {
+static std::vector<char *> Pointers(std::vector<std::string> &texts)
+{
     std::vector<char *> pointers;
     for (std::string &text : texts)
         pointers.push_back(text.data());
@@ -24,7 +26,8 @@ static std::vector<char *> Pointers(std::vector<std::string> &texts) {
     return pointers;
 }
 
-[[noreturn]] static void StartFilter(const Job &job, int in, int out, int err) {
+[[noreturn]] static void StartFilter(const Job &job, int in, int out, int err)
+{
     std::vector<std::string> arguments = {job.filter};
     arguments.insert(arguments.end(), job.arguments.begin(), job.arguments.end());
     // The first setting of a name counts.
@@ -45,7 +48,8 @@ static std::vector<char *> Pointers(std::vector<std::string> &texts) {
 }
 
 // Sends the next piece of the input; closes the pipe and returns false when there is none or nobody reads.
-static bool Send(int pipe, const std::string &input, size_t &sent) {
+static bool Send(int pipe, const std::string &input, size_t &sent)
+{
     const size_t piece = std::min<size_t>(input.size() - sent, 4096);
     const ssize_t count = piece ? write(pipe, input.data() + sent, piece) : 0;
     if (count > 0)
@@ -57,7 +61,8 @@ static bool Send(int pipe, const std::string &input, size_t &sent) {
 }
 
 // Feeds standard input and collects both outputs at once, so that no pipe can fill up and block the other side.
-static void Exchange(const std::string &input, int toFilter, int fromFilter, int messages, JobResult &result) {
+static void Exchange(const std::string &input, int toFilter, int fromFilter, int messages, JobResult &result)
+{
     size_t sent = 0;
     pollfd ends[] = {{toFilter, POLLOUT, 0}, {fromFilter, POLLIN, 0}, {messages, POLLIN, 0}};
     std::string *texts[] = {nullptr, &result.output, &result.messages};
@@ -80,7 +85,8 @@ static void Exchange(const std::string &input, int toFilter, int fromFilter, int
         close(toFilter);
 }
 
-JobResult RunJobProcess(const Job &job) {
+JobResult RunJobProcess(const Job &job)
+{
     int in[2], out[2], err[2];
     if (pipe(in) || pipe(out) || pipe(err))
         throw std::runtime_error("pipe");
@@ -106,39 +112,46 @@ JobResult RunJobProcess(const Job &job) {
     return result;
 }
 
-namespace {
+namespace
+{
 struct OwnDirectory {
     std::string path = (std::filesystem::temp_directory_path() / "pstoorvane-XXXXXX").string();
-    OwnDirectory() {
+    OwnDirectory()
+    {
         if (!mkdtemp(path.data()))
             throw std::runtime_error("mkdtemp");
     }
-    ~OwnDirectory() {
+    ~OwnDirectory()
+    {
         std::error_code ignored;
         std::filesystem::remove_all(path, ignored);
     }
 };
 } // namespace
 
-const std::string &TestDirectory() {
+const std::string &TestDirectory()
+{
     static const OwnDirectory directory;
     return directory.path;
 }
 
-std::string ReadFile(const std::string &path) {
+std::string ReadFile(const std::string &path)
+{
     std::ifstream file(path, std::ios::binary);
     if (!file)
         throw std::runtime_error("can't read " + path);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void WriteFile(const std::string &path, const std::string &content) {
+void WriteFile(const std::string &path, const std::string &content)
+{
     std::ofstream file(path, std::ios::binary);
     if (!file.write(content.data(), static_cast<std::streamsize>(content.size())).flush())
         throw std::runtime_error("can't write " + path);
 }
 
-std::string ExpectedHostName(bool utf8) {
+std::string ExpectedHostName(bool utf8)
+{
     char name[256] = "";
     gethostname(name, sizeof name - 1);
     return std::string(name).substr(0, utf8 ? 32 : 96);

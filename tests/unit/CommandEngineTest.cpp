@@ -11,14 +11,16 @@ static const int32_t minusOne = -1;
 static const char empty[] = "";
 static const char nul = '\0';
 
-static std::string Build(const char *format, std::vector<const void *> values, size_t size = kCommandLineSize) {
+static std::string Build(const char *format, std::vector<const void *> values, size_t size = kCommandLineSize)
+{
     const CmdParaTable table = {static_cast<int32_t>(values.size()), values.data()};
     std::string line(size, '#');
     BuildPrintComand(format, &table, line.data(), size);
     return line.c_str();
 }
 
-TEST(CommandBuilder, BuildsLines) {
+TEST(CommandBuilder, BuildsLines)
+{
     const std::string longText(2100, 'x');
     const struct {
         const char *format;
@@ -50,14 +52,16 @@ TEST(CommandBuilder, BuildsLines) {
     EXPECT_STREQ(line, "no descriptor\n");
 }
 
-TEST(CommandBuilder, UnknownSymbolHasNoValue) {
+TEST(CommandBuilder, UnknownSymbolHasNoValue)
+{
     char value[8] = "old";
     EXPECT_EQ(getCtrlSym("%x", &seven, value, sizeof value), 0u);
     EXPECT_EQ(getCtrlSym("%d", &seven, value, sizeof value), 1u);
     EXPECT_STREQ(value, "7");
 }
 
-TEST(CommandTable, Conditions) {
+TEST(CommandTable, Conditions)
+{
     static const char *const needle = "Coil";
     static const char *const nothing = "";
     static const int32_t three = 3;
@@ -97,12 +101,14 @@ TEST(CommandTable, Conditions) {
 
 static int evaluated;
 
-static uint32_t Count(const void *holds, const void *) {
+static uint32_t Count(const void *holds, const void *)
+{
     evaluated++;
     return *static_cast<const int32_t *>(holds) == 7;
 }
 
-TEST(CommandTable, StopsAtTheFirstConditionThatFails) {
+TEST(CommandTable, StopsAtTheFirstConditionThatFails)
+{
     const ComparationItem items[] = {{&seven, nullptr, Count}, {&minusOne, nullptr, Count}, {&seven, nullptr, Count}};
     evaluated = 0;
     EXPECT_EQ(ConditionCompare({3, items}), 0u);
@@ -112,7 +118,8 @@ TEST(CommandTable, StopsAtTheFirstConditionThatFails) {
     EXPECT_EQ(ConditionCompare({-1, nullptr}), 1u);
 }
 
-TEST(CommandTable, WritesUnconditionalRowsAndThoseThatHold) {
+TEST(CommandTable, WritesUnconditionalRowsAndThoseThatHold)
+{
     const ComparationItem fails[] = {Equal(seven, minusOne)};
     const ComparationItem holds[] = {NotEqual(seven, minusOne)};
     const ComparationTable failing = {1, fails}, holding = {1, holds}, none = {0, nullptr};

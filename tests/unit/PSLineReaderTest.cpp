@@ -9,7 +9,8 @@
 #include <string>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
 struct Reading {
     std::string text; // what was written, with each line of interest between < and >
@@ -21,7 +22,8 @@ const char *const markerTexts[] = {
     "%%BeginProlog", "%%EndProlog", "%%EndSetup", "userdict/setpagedevice{pop}bind put", "bp", "%%EndPageSetup", "ep",
     "endp",          "showpage"};
 
-bool IsOfInterest(const std::string &line) {
+bool IsOfInterest(const std::string &line)
+{
     for (const char *text : markerTexts)
         if (line == text)
             return true;
@@ -29,7 +31,8 @@ bool IsOfInterest(const std::string &line) {
            line.find("TCPR") != std::string::npos;
 }
 
-Reading ReadByteWise(const std::string &document) {
+Reading ReadByteWise(const std::string &document)
+{
     Reading reading;
     std::string line;
     for (char byte : document) {
@@ -50,7 +53,8 @@ Reading ReadByteWise(const std::string &document) {
 }
 
 // Offers the document in pieces of the given size, as a pipe does.
-Reading ReadInBlocks(const std::string &document, size_t piece) {
+Reading ReadInBlocks(const std::string &document, size_t piece)
+{
     int ends[2];
     EXPECT_EQ(pipe(ends), 0);
     const pid_t writer = fork();
@@ -82,7 +86,8 @@ Reading ReadInBlocks(const std::string &document, size_t piece) {
     return reading;
 }
 
-std::string RandomDocument(std::mt19937 &random) {
+std::string RandomDocument(std::mt19937 &random)
+{
     static const std::string pieces[] = {"\n",
                                          "\r",
                                          "\r\n",
@@ -115,7 +120,8 @@ std::string RandomDocument(std::mt19937 &random) {
 
 } // namespace
 
-TEST(PSLineReader, ReadsAsAByteWiseReaderWould) {
+TEST(PSLineReader, ReadsAsAByteWiseReaderWould)
+{
     std::mt19937 random(20261122);
     static const size_t pieces[] = {1000000, 65536, 4096, 8065, 509};
     for (int i = 0; i < 400; i++) {

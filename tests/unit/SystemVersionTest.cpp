@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-TEST(SystemVersion, PacksKernelReleases) {
+TEST(SystemVersion, PacksKernelReleases)
+{
     const struct {
         const char *release;
         uint32_t version;
@@ -17,7 +18,8 @@ TEST(SystemVersion, PacksKernelReleases) {
         EXPECT_EQ(PackKernelRelease(c.release), c.version) << c.release;
 }
 
-TEST(SystemVersion, AnswersTheFourSelectors) {
+TEST(SystemVersion, AnswersTheFourSelectors)
+{
     int32_t packed = 0, major = 0, minor = 0, fix = 0, other = 99;
     EXPECT_EQ(Gestalt_ALT(kGestaltSystemVersion, &packed), 0);
     EXPECT_EQ(Gestalt_ALT(kGestaltSystemVersionMajor, &major), 0);

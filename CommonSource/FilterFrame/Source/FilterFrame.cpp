@@ -30,16 +30,19 @@ static constexpr mode_t kJobCopyMode = 0676;
 // Systems after this version give every filter a temporary directory of its own.
 static constexpr int32_t kLastVersionWithSharedTemp = 0x109F;
 
-void SignalHandler(int) {
+void SignalHandler(int)
+{
     CancelJob = 1;
 }
 
-void SignalPipeHandler(int) {
+void SignalPipeHandler(int)
+{
     CancelJobForPipe = 1;
 }
 
 // Interrupted reads and writes are taken up again, so that a signal never costs a byte.
-static void InstallHandler(int sig, void (*handler)(int)) {
+static void InstallHandler(int sig, void (*handler)(int))
+{
     struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
@@ -48,7 +51,8 @@ static void InstallHandler(int sig, void (*handler)(int)) {
 }
 
 // A descriptor of ours must never become standard input, output or error.
-static void ReserveStandardDescriptors() {
+static void ReserveStandardDescriptors()
+{
     int descriptor;
     do
         descriptor = open("/dev/null", O_RDWR);
@@ -64,7 +68,8 @@ static void ForbidCoreFiles()
     setrlimit(RLIMIT_CORE, &none);
 }
 
-static void TakeUserName(const char *user) {
+static void TakeUserName(const char *user)
+{
     if (UTF8Mode) {
         ConvertUTF8ToEncodingForUTF8(user, StdUserName, kUserNameSize);
         CopyCut(StdJBAUserName, StdUserName);
@@ -76,7 +81,8 @@ static void TakeUserName(const char *user) {
 }
 
 // A title of several lines is no name; both stay empty.
-static void TakeDocumentName(const char *const *argv) {
+static void TakeDocumentName(const char *const *argv)
+{
     const char *title = argv[3];
     if (strpbrk(title, "\r\n"))
         return;
@@ -91,7 +97,8 @@ static void TakeDocumentName(const char *const *argv) {
     }
 }
 
-static void JobCopyPath(char (&path)[kJobCopyPathSize]) {
+static void JobCopyPath(char (&path)[kJobCopyPathSize])
+{
     const time_t now = time(nullptr);
     struct tm local = {};
     localtime_r(&now, &local);
@@ -108,7 +115,8 @@ static void JobCopyPath(char (&path)[kJobCopyPathSize]) {
 }
 
 // The directory may be shared: a link, a FIFO or somebody else's file under the copy's name is left alone.
-static FILE *CreateJobCopy(const char *path) {
+static FILE *CreateJobCopy(const char *path)
+{
     const int file = open(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (file < 0)
         return nullptr;
@@ -122,7 +130,8 @@ static FILE *CreateJobCopy(const char *path) {
     return copy;
 }
 
-static void OpenJobCopy() {
+static void OpenJobCopy()
+{
     gJobFilefp = nullptr;
     if (access(OV_JOBCOPY_FLAG_FILE, F_OK) != 0)
         return;
@@ -131,7 +140,8 @@ static void OpenJobCopy() {
     gJobFilefp = CreateJobCopy(path);
 }
 
-static void CloseJobCopy() {
+static void CloseJobCopy()
+{
     if (!gJobFilefp)
         return;
     fchmod(fileno(gJobFilefp), kJobCopyMode);
@@ -139,7 +149,8 @@ static void CloseJobCopy() {
     gJobFilefp = nullptr;
 }
 
-static int RunJob(int argc, const char *const *argv) {
+static int RunJob(int argc, const char *const *argv)
+{
     ClearJobState();
     UTF8Mode = PPDAttributeIs(KPPDCharEncoding, "UTF-8");
     InstallHandler(SIGTERM, SignalHandler);
@@ -163,7 +174,8 @@ static int RunJob(int argc, const char *const *argv) {
     return CancelJobForPipe ? 1 : 0;
 }
 
-int FilterMain(int argc, const char *const *argv) {
+int FilterMain(int argc, const char *const *argv)
+{
     ReserveStandardDescriptors();
     ForbidCoreFiles();
     if (argc < 6) {

@@ -38,14 +38,16 @@ const int32_t numFmtTableZPJLJobMode = std::size(prtFmtTableZPJLJobMode);
 const int32_t numFmtTableEnterPS = std::size(prtFmtTableEnterPS);
 const int32_t numFmtTableZPJLTrailer = std::size(prtFmtTableZPJLTrailer);
 
-void InializeDescriptionTable() {
+void InializeDescriptionTable()
+{
     InitializeCmdParaTable(symParaZPJLHead, cmdParaListZPJLHead);
     InitializeCmdParaTable(symParaZPJLJobMode, cmdParaListZPJLJobMode);
     InitializeCmdParaTable(symParaZPJLTrailer, cmdParaListZPJLTrailer);
     InializeDescriptionTableFromFilter();
 }
 
-static bool IsModelWithComment(const char *fileName) {
+static bool IsModelWithComment(const char *fileName)
+{
     for (const char *const *model = modelsWithComment; *model; model++)
         if (strstr(fileName, *model))
             return true;
@@ -53,18 +55,21 @@ static bool IsModelWithComment(const char *fileName) {
 }
 
 // Whether the printer takes the job information comment.
-static bool IsCommentWanted() {
+static bool IsCommentWanted()
+{
     if (PPDAttributeValue(KPPDCharEncoding))
         return !PPDAttributeIs(KPPDCharEncoding, "UTF-8") || PPDAttributeIs("CommentOn", "True");
     const char *fileName = PPDAttributeValue("PCFileName");
     return fileName && (IsModelWithComment(fileName) || PPDAttributeIs("CommentOn", "True"));
 }
 
-bool IsSpooledMode() {
+bool IsSpooledMode()
+{
     return PPDAttributeIs("OVPSDecompMode", "1");
 }
 
-void OutputZPJLCommand(const char *const *argv) {
+void OutputZPJLCommand(const char *const *argv)
+{
     OutputZPJLCommandFromArray(argv, prtFmtTableZPJLHead, numFmtTableZPJLHead);
     OutputZPJLCommandLanguageEncoding();
     OutputZPJLCommandFromArray(argv, prtFmtTableZPJLJobMode, numFmtTableZPJLJobMode);

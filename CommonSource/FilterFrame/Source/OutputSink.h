@@ -19,5 +19,6 @@ void QBfprintf(FILE *stream, const char *text);
 constexpr size_t kDirectLineSize = 100;
 constexpr size_t kMaxDirectLineSize = 256;
 
-// Formats one line into a buffer of `size` bytes (at most kMaxDirectLineSize), which cuts it to size - 1, and writes it.
+// Formats one line into a buffer of `size` bytes (at most kMaxDirectLineSize), which cuts it to size - 1, and writes
+// it.
 [[gnu::format(printf, 3, 4)]] void QBfprintfCut(FILE *stream, size_t size, const char *format, ...);

@@ -16,7 +16,8 @@ const char DefaultQBColorModeBlack[] = "Black";
 static ppd_file_t *jobPPD = nullptr;
 static bool jobPPDOpened = false;
 
-ppd_file_t *JobPPD() {
+ppd_file_t *JobPPD()
+{
     if (!jobPPDOpened) {
         const char *path = getenv("PPD");
         jobPPD = path ? ppdOpenFile(path) : nullptr;
@@ -25,14 +26,16 @@ ppd_file_t *JobPPD() {
     return jobPPD;
 }
 
-void CloseJobPPD() {
+void CloseJobPPD()
+{
     if (jobPPD)
         ppdClose(jobPPD);
     jobPPD = nullptr;
     jobPPDOpened = false;
 }
 
-const ppd_attr_t *ppdFindAttr_ALT(const ppd_file_t *ppd, const char *name) {
+const ppd_attr_t *ppdFindAttr_ALT(const ppd_file_t *ppd, const char *name)
+{
     const size_t length = strlen(name);
     for (int i = 0; ppd && i < ppd->num_attrs; i++)
         if (strncmp(ppd->attrs[i]->name, name, length) == 0)
@@ -40,49 +43,59 @@ const ppd_attr_t *ppdFindAttr_ALT(const ppd_file_t *ppd, const char *name) {
     return nullptr;
 }
 
-static const char *AttributeValue(const ppd_file_t *ppd, const char *name) {
+static const char *AttributeValue(const ppd_file_t *ppd, const char *name)
+{
     const ppd_attr_t *attribute = ppdFindAttr_ALT(ppd, name);
     return attribute ? attribute->value : nullptr;
 }
 
-int32_t CheckIfPPDKeywordSupported(const ppd_file_t *ppd, const char *keyword, const char *text) {
+int32_t CheckIfPPDKeywordSupported(const ppd_file_t *ppd, const char *keyword, const char *text)
+{
     const char *value = AttributeValue(ppd, keyword);
     return value && strstr(value, text);
 }
 
-const char *PPDAttributeValue(const char *name) {
+const char *PPDAttributeValue(const char *name)
+{
     return AttributeValue(JobPPD(), name);
 }
 
-bool PPDAttributeIs(const char *name, const char *value) {
+bool PPDAttributeIs(const char *name, const char *value)
+{
     const char *found = PPDAttributeValue(name);
     return found && strcmp(found, value) == 0;
 }
 
-static const ppd_option_t *FindOption(ppd_file_t *ppd, const char *keyword) {
+static const ppd_option_t *FindOption(ppd_file_t *ppd, const char *keyword)
+{
     return ppd ? ppdFindOption(ppd, keyword) : nullptr;
 }
 
-bool PPDHasOption(ppd_file_t *ppd, const char *keyword) {
+bool PPDHasOption(ppd_file_t *ppd, const char *keyword)
+{
     return FindOption(ppd, keyword) != nullptr;
 }
 
-bool PPDHasOption(const char *keyword) {
+bool PPDHasOption(const char *keyword)
+{
     return PPDHasOption(JobPPD(), keyword);
 }
 
-bool PPDPageSizeInPoints(const char *name, float &width, float &length) {
+bool PPDPageSizeInPoints(const char *name, float &width, float &length)
+{
     const ppd_size_t *size = JobPPD() ? ppdPageSize(JobPPD(), name) : nullptr;
     width = size ? size->width : 0;
     length = size ? size->length : 0;
     return size != nullptr;
 }
 
-int32_t IsColorDeivce() {
+int32_t IsColorDeivce()
+{
     return PPDAttributeIs("ColorDevice", DeviceColorModeColor);
 }
 
-int32_t getDefaultColorMode() {
+int32_t getDefaultColorMode()
+{
     const ppd_option_t *option = FindOption(JobPPD(), "OVColorMode");
     return option && strcmp(option->defchoice, DefaultQBColorModeColor) == 0;
 }

@@ -25,7 +25,8 @@ static const PSMarker markers[] = {
     {"showpage", 0, kPageEnd},
 };
 
-static const PSMarker *FindMarker(std::string_view line) {
+static const PSMarker *FindMarker(std::string_view line)
+{
     for (const PSMarker &marker : markers)
         if (line == marker.text)
             return &marker;
@@ -33,7 +34,8 @@ static const PSMarker *FindMarker(std::string_view line) {
 }
 
 // The first byte tells almost every line of a document from the markers.
-static bool CanBeMarker(std::string_view line) {
+static bool CanBeMarker(std::string_view line)
+{
     switch (line.empty() ? '\0' : line.front()) {
     case '%':
     case 'b':
@@ -46,13 +48,15 @@ static bool CanBeMarker(std::string_view line) {
     }
 }
 
-static const char *Find(const char *from, const char *end, char byte) {
+static const char *Find(const char *from, const char *end, char byte)
+{
     const void *found = memchr(from, byte, static_cast<size_t>(end - from));
     return found ? static_cast<const char *>(found) : end;
 }
 
 void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
-                      const PSWatch *watch) {
+                      const PSWatch *watch)
+{
     reader.in = in;
     reader.out = out;
     reader.write = write;
@@ -66,7 +70,8 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
 }
 
 // The first CR or LF at or after the line's begin.
-static const char *FindLineEnd(PSLineReader &reader) {
+static const char *FindLineEnd(PSLineReader &reader)
+{
     if (reader.nextCR < reader.line)
         reader.nextCR = Find(reader.line, reader.end, '\r');
     if (reader.nextLF < reader.line)
@@ -74,7 +79,8 @@ static const char *FindLineEnd(PSLineReader &reader) {
     return std::min(reader.nextCR, reader.nextLF);
 }
 
-static bool IsWatched(PSLineReader &reader) {
+static bool IsWatched(PSLineReader &reader)
+{
     if (!reader.watch)
         return false;
     if (CurrentPSLine(reader).starts_with(reader.watch->prefix))
@@ -92,26 +98,31 @@ static bool IsWatched(PSLineReader &reader) {
     return false;
 }
 
-static void WriteUpTo(PSLineReader &reader, const char *position) {
+static void WriteUpTo(PSLineReader &reader, const char *position)
+{
     if (position > reader.written)
         reader.write(reader.written, 1, static_cast<size_t>(position - reader.written), reader.out);
     reader.written = position;
 }
 
-void WriteBeforePSLine(PSLineReader &reader) {
+void WriteBeforePSLine(PSLineReader &reader)
+{
     WriteUpTo(reader, reader.line);
 }
 
-void WriteThroughPSLine(PSLineReader &reader) {
+void WriteThroughPSLine(PSLineReader &reader)
+{
     WriteUpTo(reader, reader.lineEnd + 1);
 }
 
-std::string_view CurrentPSLine(const PSLineReader &reader) {
+std::string_view CurrentPSLine(const PSLineReader &reader)
+{
     return {reader.line, reader.lineEnd};
 }
 
 // Writes all but the unfinished line, moves that to the front and reads on behind it. Returns false at the end.
-static bool Refill(PSLineReader &reader) {
+static bool Refill(PSLineReader &reader)
+{
     WriteBeforePSLine(reader);
     const size_t unfinished = static_cast<size_t>(reader.end - reader.line);
     memmove(reader.block, reader.line, unfinished);
@@ -133,7 +144,8 @@ static bool Refill(PSLineReader &reader) {
     return true;
 }
 
-bool NextPSLine(PSLineReader &reader) {
+bool NextPSLine(PSLineReader &reader)
+{
     if (reader.lineEnd < reader.end)
         reader.line = reader.lineEnd + 1;
     for (;;) {
@@ -156,7 +168,8 @@ bool NextPSLine(PSLineReader &reader) {
 }
 
 bool CopyPSDocument(PSLineReader &reader, const char *const *argv,
-                    void (*watched)(std::string_view line, void *context), void *context) {
+                    void (*watched)(std::string_view line, void *context), void *context)
+{
     int32_t pageNumber = 0;
     bool prologEnded = false;
     while (NextPSLine(reader)) {
@@ -190,7 +203,8 @@ bool CopyPSDocument(PSLineReader &reader, const char *const *argv,
     return true;
 }
 
-void OutputPageLogCommand(int32_t pageNumber, const char *const *argv) {
+void OutputPageLogCommand(int32_t pageNumber, const char *const *argv)
+{
     int32_t version = 0;
     if (Gestalt_ALT(kGestaltSystemVersion, &version) != 0 || version < kFirstPageLogVersion)
         return;

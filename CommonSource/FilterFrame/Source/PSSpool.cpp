@@ -55,25 +55,29 @@ struct FeatureState {
     bool defaultsPending;
 };
 
-static bool IsKeyword(const char *keyword, const char *key) {
+static bool IsKeyword(const char *keyword, const char *key)
+{
     return keyword[0] == '*' && strcmp(keyword + 1, key) == 0;
 }
 
 // Copies the next word, which ends at a space, and moves past it.
-static void TakeWord(std::string_view &text, char (&word)[kFeatureLineSize]) {
+static void TakeWord(std::string_view &text, char (&word)[kFeatureLineSize])
+{
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     const size_t length = std::min(text.find(' '), text.size());
     CopyCut(word, text.substr(0, length));
     text.remove_prefix(length);
 }
 
-static void OutputHalftone(const char *value) {
+static void OutputHalftone(const char *value)
+{
     for (const auto &halftone : halftones)
         if (strcmp(value, halftone.value) == 0)
             outputZPJLCommandFromArray(halftoneNames, halftone.values);
 }
 
-static void OutputFeature(std::string_view line, FeatureState &state) {
+static void OutputFeature(std::string_view line, FeatureState &state)
+{
     char text[kFeatureLineSize], keyword[kFeatureLineSize], value[kFeatureLineSize];
     CopyCut(text, line);
     std::string_view words = text + strlen(featurePrefix);
@@ -104,18 +108,21 @@ static void OutputFeature(std::string_view line, FeatureState &state) {
         QBfputs(command, stdout);
 }
 
-std::string GetSubString(std::string_view text, ptrdiff_t from, ptrdiff_t to) {
+std::string GetSubString(std::string_view text, ptrdiff_t from, ptrdiff_t to)
+{
     const ptrdiff_t begin = std::max<ptrdiff_t>(from, 0);
     const ptrdiff_t end = std::min(to + 1, static_cast<ptrdiff_t>(text.size()));
     return begin < end ? std::string(text.data() + begin, text.data() + end) : std::string();
 }
 
-static bool HoldsAll(std::string_view line, std::span<const std::string_view> words) {
+static bool HoldsAll(std::string_view line, std::span<const std::string_view> words)
+{
     return std::ranges::all_of(words, [line](std::string_view word) { return line.find(word) != line.npos; });
 }
 
 // Each number of one or two digits is the value of the attribute whose four letters end one byte before it.
-static void OutputScreen(std::string_view line) {
+static void OutputScreen(std::string_view line)
+{
     size_t seen = 0;
     for (size_t p = 0; p < line.size() && seen < kMaxScreenDigits; p++) {
         const auto isDigit = [line](size_t at) { return at < line.size() && line[at] >= '0' && line[at] <= '9'; };
@@ -135,14 +142,16 @@ static void OutputScreen(std::string_view line) {
     }
 }
 
-static void OutputWatchedLine(std::string_view line, void *context) {
+static void OutputWatchedLine(std::string_view line, void *context)
+{
     if (line.starts_with(featurePrefix))
         OutputFeature(line, *static_cast<FeatureState *>(context));
     if (HoldsAll(line, screenWords) || HoldsAll(line, curveWords))
         OutputScreen(line);
 }
 
-static FILE *CreateSpoolFile() {
+static FILE *CreateSpoolFile()
+{
     const int file = cupsTempFd(PPDPJLOutFilePath, kSpoolPathSize);
     if (file < 0)
         return nullptr;
@@ -155,7 +164,8 @@ static FILE *CreateSpoolFile() {
 }
 
 // Of the bytes behind the last line end only the last is kept; the document then ends with one 0x04.
-static void EndSpooledDocument(const PSLineReader &reader, FILE *spool) {
+static void EndSpooledDocument(const PSLineReader &reader, FILE *spool)
+{
     if (!CurrentPSLine(reader).empty())
         QBfputc(reader.last, spool);
     if (reader.last != '\x04')
@@ -163,7 +173,8 @@ static void EndSpooledDocument(const PSLineReader &reader, FILE *spool) {
 }
 
 // Copies the document into the spool file. Returns whether all of it is there.
-static bool SpoolDocument(int in, const char *const *argv) {
+static bool SpoolDocument(int in, const char *const *argv)
+{
     // Kept beyond a cancelled job, whose spool file is left as it is.
     static FILE *spool;
     spool = CreateSpoolFile();
@@ -185,11 +196,13 @@ static bool SpoolDocument(int in, const char *const *argv) {
 }
 
 // Not through the sink: the job copy has had the document.
-static void WritePlain(const void *buffer, size_t size, size_t count, FILE *stream) {
+static void WritePlain(const void *buffer, size_t size, size_t count, FILE *stream)
+{
     fwrite(buffer, size, count, stream);
 }
 
-static void CopySpooledDocument(int spool) {
+static void CopySpooledDocument(int spool)
+{
     PSLineReader reader;
     OpenPSLineReader(reader, spool, stdout, WritePlain, nullptr);
     while (NextPSLine(reader)) {
@@ -203,7 +216,8 @@ static void CopySpooledDocument(int spool) {
     WritePlain(tail.data(), 1, tail.size(), stdout);
 }
 
-void OutputPSStreamtoFileandInsertPJLforFeaturePDE(int argc, const char *const *argv) {
+void OutputPSStreamtoFileandInsertPJLforFeaturePDE(int argc, const char *const *argv)
+{
     const bool fromFile = argc == 7;
     const int in = fromFile ? open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
     if (in < 0)

@@ -10,7 +10,8 @@
 
 char g_DLOutputMode[kOutputModeSize];
 
-void OutputPSStream(int argc, const char *const *argv) {
+void OutputPSStream(int argc, const char *const *argv)
+{
     const bool fromFile = argc != 6;
     const int in = fromFile ? open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
     if (in < 0)
@@ -23,7 +24,8 @@ void OutputPSStream(int argc, const char *const *argv) {
         close(in);
 }
 
-int GetDLOutputMode(const char *const *argv) {
+int GetDLOutputMode(const char *const *argv)
+{
     const JobOptions options = OptionsOfJob(argv);
     const char *value = cupsGetOption("OVOutputMode", options.count, options.list);
     if (!value)

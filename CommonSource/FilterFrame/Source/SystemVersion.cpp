@@ -10,7 +10,8 @@ static constexpr uint32_t kOldestVersion = 0x1000;
 static constexpr uint32_t kVersionNotKnown = 0xFFFFFFFF;
 static constexpr size_t kReleaseTextSize = 16;
 
-uint32_t PackKernelRelease(const char *release) {
+uint32_t PackKernelRelease(const char *release)
+{
     uint32_t version = kOldestVersion;
     const long major = strtol(release, nullptr, 10);
     if (major > 0)
@@ -22,7 +23,8 @@ uint32_t PackKernelRelease(const char *release) {
     return version;
 }
 
-static uint32_t SystemVersion() {
+static uint32_t SystemVersion()
+{
     static uint32_t osVersion = kVersionNotKnown;
     if (osVersion == kVersionNotKnown) {
         char release[kReleaseTextSize];
@@ -31,7 +33,8 @@ static uint32_t SystemVersion() {
     return osVersion;
 }
 
-int32_t Gestalt_ALT(uint32_t selector, int32_t *result) {
+int32_t Gestalt_ALT(uint32_t selector, int32_t *result)
+{
     const uint32_t version = SystemVersion();
     uint32_t answer = 0;
     switch (selector) {
