@@ -154,7 +154,7 @@ void CompactAddress(std::string_view address, char *destination)
     const std::string numeric(address.substr(0, address.find('%')));
     std::string compact;
     if (numeric.find(_IPv4_sign_) != std::string::npos) // also as the end of an IPv6 address that stands for IPv4
-        compact = CompactIPv4(numeric.c_str() + numeric.rfind(_IPv6_sign_) + 1);
+        compact = CompactIPv4(numeric.substr(numeric.rfind(_IPv6_sign_) + 1).c_str());
     else if (numeric.find(_IPv6_sign_) != std::string::npos)
         compact = CompactIPv6(numeric);
     memset(destination, 0, kIPAddressSize);
