@@ -44,6 +44,18 @@ TEST_F(Accounting, UnknownHostAndUser)
     *HostNameStr = '\0';
     *StdUserName = '\0';
     EXPECT_EQ(Lines(), "@PJL SET JOBATTR=\"@CNAM=UnknownHost\"\n@PJL SET JOBATTR=\"@LUNA=UnknownUser\"\n");
+
+    JBAOptions &option = zpjlOptionJBA;
+    option.userSetting = option.adminUserSetting = option.userIDList = option.adminUserIDList = 1;
+    for (const char *password : {"", "x"})
+        for (const int32_t list : {0, 1, 3})
+            for (const int32_t mode : {1, 2}) {
+                strcpy(option.userPassword, password);
+                strcpy(option.adminUserPassword, password);
+                option.infoList = list;
+                option.manageType = mode;
+                EXPECT_EQ(Count(Lines(), "JOAU") + Count(Lines(), "JOEP"), 0) << mode << ' ' << list << password;
+            }
 }
 
 TEST_F(Accounting, AddressOfTheHostUnlessTheDialogGivesOne)
@@ -92,10 +104,12 @@ TEST_F(Accounting, SharedTicketsAreCut)
     EXPECT_STREQ(zpjlOptionJBA.hostName, "desk");
 }
 
-// Fills the texts whose bit is set.
+// Fills the domains, and the texts whose bit is set.
 static void FillTexts(int bits)
 {
     JBAOptions &option = zpjlOptionJBA;
+    for (char *domain : {option.domainName, option.adminDomainName, option.inputDomainName})
+        strcpy(domain, "office");
     char *const texts[][3] = {{option.userID, option.adminUserID, option.inputUserID},
                               {option.userPassword, option.adminUserPassword, option.inputUserPassword},
                               {option.accountID, option.adminAccountID, option.inputAccountID},
