@@ -23,6 +23,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+static const char kUsage[] =
+    "Usage: pstoorvane job-id user title copies options [file]\n"
+    "       pstoorvane --version | --help\n"
+    "A CUPS filter: turns PostScript into a PJL job for the queue whose PPD the variable PPD names. See pstoorvane(8).\n";
 static constexpr size_t kJobCopyPathSize = 1035;
 static constexpr size_t kTimestampSize = 64;
 static constexpr mode_t kJobCopyMode = 0676;
@@ -174,12 +178,28 @@ static int RunJob(int argc, const char *const *argv)
     return CancelJobForPipe ? 1 : 0;
 }
 
+// No job has a single argument, so none can be taken for one of these.
+static bool AnswersWithoutJob(int argc, const char *const *argv)
+{
+    if (argc != 2)
+        return false;
+    if (strcmp(argv[1], "--version") == 0)
+        puts("pstoorvane " OV_VERSION);
+    else if (strcmp(argv[1], "--help") == 0)
+        fputs(kUsage, stdout);
+    else
+        return false;
+    return true;
+}
+
 int FilterMain(int argc, const char *const *argv)
 {
     ReserveStandardDescriptors();
     ForbidCoreFiles();
+    if (AnswersWithoutJob(argc, argv))
+        return fflush(stdout) == 0 ? 0 : 1;
     if (argc < 6) {
-        fputs("Usage: pstoorvane job-id user title copies options [file]\n", stderr);
+        fputs(kUsage, stderr);
         return 1;
     }
     return RunJob(argc, argv);
