@@ -33,42 +33,36 @@ static const char KPFWhetherMediaTypeTabKey[] = "com.orvane.dlg.printsettings.fe
 static const char kCoilPunchFaceTicketKey[] = "com.orvane.dlg.printsettings.CoilPunchFaceTicket";
 static const char KSPWhetherMediaTypeTabKey[] = "com.orvane.dlg.printsettings.whetherMediaTypeTabTicket";
 
-static constexpr ticketData Number(const char *key, int32_t &field)
-{
-    return {key, &field, sizeof field, GetTicketInteger};
-}
-
-template <int32_t N> static constexpr ticketData Text(const char *key, char (&field)[N])
-{
-    return {key, field, N, GetTicketStringConvertedToPrtLang};
-}
+static constexpr FeaturesOptions &option = zpjlOptionFeatures;
+static constexpr TicketGetter Integer = GetTicketInteger;
+static constexpr TicketGetter Text = GetTicketStringConvertedToPrtLang;
 
 static const ticketData FeaturesticketData[] = {
-    Number(kTabMarginCheckBoxTicketKey, zpjlOptionFeatures.tabMargin),
-    Number(kTrimmerCheckBoxTicketKey, zpjlOptionFeatures.trimmer),
-    Number(kTrimmerPopupTicketKey, zpjlOptionFeatures.trimmerSelect),
-    Number(kBookletMarginCheckBoxTicketKey, zpjlOptionFeatures.bookletMargin),
-    Text(kTabMarginShiftTicketKey, zpjlOptionFeatures.tabMarginShift),
-    Text(kTrimmerCuttingSizeTicketKey, zpjlOptionFeatures.trimmerCuttingSize),
-    Text(kTrimmerWidthMMSizeTicketKey, zpjlOptionFeatures.trimmerWidthSize),
-    Text(kTrimmerHeightMMSizeTicketKey, zpjlOptionFeatures.trimmerHeightSize),
-    Text(kTrimmerAdjustMMSizeTicketKey, zpjlOptionFeatures.trimmerAdjustSize),
-    Number(KNumInSequenceCheckBoxTicketKey, zpjlOptionFeatures.numInSequence),
-    Text(KNumInSequenceLittleArrowTicketKey, zpjlOptionFeatures.numInSequenceStart),
-    Number(KOffsetStackingListTicketKey, zpjlOptionFeatures.offsetStacking),
-    Text(KOffsetStackingPagesLittleArrowTicketKey, zpjlOptionFeatures.offsetStackingPages),
-    Text(KOffsetStackingUnitsLittleArrowTicketKey, zpjlOptionFeatures.offsetStackingUnits),
-    Number(kSeparatorPagesListTicketKey, zpjlOptionFeatures.separatorPagesList),
-    Text(kSeparatorPagesTicketKey, zpjlOptionFeatures.separatorPages),
-    Number(kAutoFitCheckBoxTicketKey, zpjlOptionFeatures.autoFit),
-    Text(kBookletMarginEditTextTicketKey, zpjlOptionFeatures.bookletMarginShift),
-    Number(KEjectOptionsListTicketKey, zpjlOptionFeatures.ejectOptions),
-    Text(kQBPunchHoleMediaTypeSize, zpjlOptionFeatures.media),
-    Number(KSPWhetherMediaSizeA5Key, zpjlOptionFeatures.specialPagesA5),
-    Text(kQBPunchHoleTicketKey, zpjlOptionFeatures.punchHoles),
-    Text(KPFWhetherMediaTypeTabKey, zpjlOptionFeatures.mediaTab),
-    Text(kCoilPunchFaceTicketKey, zpjlOptionFeatures.coilPunchFace),
-    Number(KSPWhetherMediaTypeTabKey, zpjlOptionFeatures.specialPagesTab),
+    {kTabMarginCheckBoxTicketKey, &option.tabMargin, sizeof option.tabMargin, Integer},
+    {kTrimmerCheckBoxTicketKey, &option.trimmer, sizeof option.trimmer, Integer},
+    {kTrimmerPopupTicketKey, &option.trimmerSelect, sizeof option.trimmerSelect, Integer},
+    {kBookletMarginCheckBoxTicketKey, &option.bookletMargin, sizeof option.bookletMargin, Integer},
+    {kTabMarginShiftTicketKey, option.tabMarginShift, sizeof option.tabMarginShift, Text},
+    {kTrimmerCuttingSizeTicketKey, option.trimmerCuttingSize, sizeof option.trimmerCuttingSize, Text},
+    {kTrimmerWidthMMSizeTicketKey, option.trimmerWidthSize, sizeof option.trimmerWidthSize, Text},
+    {kTrimmerHeightMMSizeTicketKey, option.trimmerHeightSize, sizeof option.trimmerHeightSize, Text},
+    {kTrimmerAdjustMMSizeTicketKey, option.trimmerAdjustSize, sizeof option.trimmerAdjustSize, Text},
+    {KNumInSequenceCheckBoxTicketKey, &option.numInSequence, sizeof option.numInSequence, Integer},
+    {KNumInSequenceLittleArrowTicketKey, option.numInSequenceStart, sizeof option.numInSequenceStart, Text},
+    {KOffsetStackingListTicketKey, &option.offsetStacking, sizeof option.offsetStacking, Integer},
+    {KOffsetStackingPagesLittleArrowTicketKey, option.offsetStackingPages, sizeof option.offsetStackingPages, Text},
+    {KOffsetStackingUnitsLittleArrowTicketKey, option.offsetStackingUnits, sizeof option.offsetStackingUnits, Text},
+    {kSeparatorPagesListTicketKey, &option.separatorPagesList, sizeof option.separatorPagesList, Integer},
+    {kSeparatorPagesTicketKey, option.separatorPages, sizeof option.separatorPages, Text},
+    {kAutoFitCheckBoxTicketKey, &option.autoFit, sizeof option.autoFit, Integer},
+    {kBookletMarginEditTextTicketKey, option.bookletMarginShift, sizeof option.bookletMarginShift, Text},
+    {KEjectOptionsListTicketKey, &option.ejectOptions, sizeof option.ejectOptions, Integer},
+    {kQBPunchHoleMediaTypeSize, option.media, sizeof option.media, Text},
+    {KSPWhetherMediaSizeA5Key, &option.specialPagesA5, sizeof option.specialPagesA5, Integer},
+    {kQBPunchHoleTicketKey, option.punchHoles, sizeof option.punchHoles, Text},
+    {KPFWhetherMediaTypeTabKey, option.mediaTab, sizeof option.mediaTab, Text},
+    {kCoilPunchFaceTicketKey, option.coilPunchFace, sizeof option.coilPunchFace, Text},
+    {KSPWhetherMediaTypeTabKey, &option.specialPagesTab, sizeof option.specialPagesTab, Integer},
 };
 
 void FeaturesInializeDescriptionTableFromFilter()

@@ -2,73 +2,72 @@
 
 #include <iterator>
 
+static constexpr FeaturesOptions &option = zpjlOptionFeatures;
+
 // Conditions that many rows share.
-static constexpr ComparationItem TrimmerCuts = Equal(zpjlOptionFeatures.trimmerSelect, SelectTrimmer);
-static constexpr ComparationItem TrimmerCutsTopLower = Equal(zpjlOptionFeatures.trimmerSelect, SelectTrimmerTopLower);
-static constexpr ComparationItem OffsetByPages =
-    Equal(zpjlOptionFeatures.offsetStacking, OptionOffsetStackingEndOfSetPage);
-static constexpr ComparationItem OffsetByCopies =
-    Equal(zpjlOptionFeatures.offsetStacking, OptionOffsetStackingEndOfSetCopy);
-static constexpr ComparationItem EjectOff = Equal(zpjlOptionFeatures.ejectOptions, EjectOptionsOff);
-static constexpr ComparationItem CoilPunch = Contains(zpjlOptionFeatures.punchHoles, punchHoleCoil);
-static constexpr ComparationItem NoCoilPunch = Lacks(zpjlOptionFeatures.punchHoles, punchHoleCoil);
-static constexpr ComparationItem CoilFaceOn = Is(zpjlOptionFeatures.coilPunchFace, coilPunchFaceOn);
-static constexpr ComparationItem CoilFaceOff = Is(zpjlOptionFeatures.coilPunchFace, coilPunchFaceOff);
-static constexpr ComparationItem TabMedia = Is(zpjlOptionFeatures.mediaTab, mediaTypeIsTab);
-static constexpr ComparationItem NoTabMedia = Is(zpjlOptionFeatures.mediaTab, mediaTypeNoTab);
-static constexpr ComparationItem SpecialPagesTab = Equal(zpjlOptionFeatures.specialPagesTab, specialPagesMediaTab);
-static constexpr ComparationItem NoSpecialPagesTab = Equal(zpjlOptionFeatures.specialPagesTab, specialPagesMediaNoTab);
-static constexpr ComparationItem A5Media = Contains(zpjlOptionFeatures.media, mediaTypeA5);
-static constexpr ComparationItem NoA5Media = Lacks(zpjlOptionFeatures.media, mediaTypeA5);
-static constexpr ComparationItem SpecialPagesA5 = Equal(zpjlOptionFeatures.specialPagesA5, specialPagesMediasizeA5);
-static constexpr ComparationItem NoSpecialPagesA5 = Equal(zpjlOptionFeatures.specialPagesA5, specialPagesMediasizeNoA5);
+static constexpr ComparationItem TrimmerCuts = Equal(option.trimmerSelect, SelectTrimmer);
+static constexpr ComparationItem TrimmerCutsTopLower = Equal(option.trimmerSelect, SelectTrimmerTopLower);
+static constexpr ComparationItem OffsetByPages = Equal(option.offsetStacking, OptionOffsetStackingEndOfSetPage);
+static constexpr ComparationItem OffsetByCopies = Equal(option.offsetStacking, OptionOffsetStackingEndOfSetCopy);
+static constexpr ComparationItem EjectOff = Equal(option.ejectOptions, EjectOptionsOff);
+static constexpr ComparationItem CoilPunch = Contains(option.punchHoles, punchHoleCoil);
+static constexpr ComparationItem NoCoilPunch = Lacks(option.punchHoles, punchHoleCoil);
+static constexpr ComparationItem CoilFaceOn = Is(option.coilPunchFace, coilPunchFaceOn);
+static constexpr ComparationItem CoilFaceOff = Is(option.coilPunchFace, coilPunchFaceOff);
+static constexpr ComparationItem TabMedia = Is(option.mediaTab, mediaTypeIsTab);
+static constexpr ComparationItem NoTabMedia = Is(option.mediaTab, mediaTypeNoTab);
+static constexpr ComparationItem SpecialPagesTab = Equal(option.specialPagesTab, specialPagesMediaTab);
+static constexpr ComparationItem NoSpecialPagesTab = Equal(option.specialPagesTab, specialPagesMediaNoTab);
+static constexpr ComparationItem A5Media = Contains(option.media, mediaTypeA5);
+static constexpr ComparationItem NoA5Media = Lacks(option.media, mediaTypeA5);
+static constexpr ComparationItem SpecialPagesA5 = Equal(option.specialPagesA5, specialPagesMediasizeA5);
+static constexpr ComparationItem NoSpecialPagesA5 = Equal(option.specialPagesA5, specialPagesMediasizeNoA5);
 
 // @TABS: shift of the image on tab paper
 static const char prtfmtStrTabMarginValueNone[] = "@PJL SET JOBATTR=%c@TABS=OFF%c%c";
 static const void *const cmdParaTabMarginValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemTabMarginValueNone[] = {
-    Equal(zpjlOptionFeatures.tabMargin, OptionTabMarginNone)};
+static const ComparationItem comparationItemTabMarginValueNone[] = {Equal(option.tabMargin, OptionTabMarginNone)};
 static CmdParaTable symParaTabMarginValueNone;
 static ComparationTable comparationParaTabMarginValueNone;
 
 static const char prtfmtStrTabMarginValue[] = "@PJL SET JOBATTR=%c@TABS=%s%c%c";
-static const void *const cmdParaTabMarginValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.tabMarginShift, &CTRLSym_DOUBLE,
+static const void *const cmdParaTabMarginValue[] = {&CTRLSym_DOUBLE, option.tabMarginShift, &CTRLSym_DOUBLE,
                                                     &CTRLSym_LF};
-static const ComparationItem comparationItemTabMarginValue[] = {Equal(zpjlOptionFeatures.tabMargin, OptionTabMargin)};
+static const ComparationItem comparationItemTabMarginValue[] = {Equal(option.tabMargin, OptionTabMargin)};
 static CmdParaTable symParaTabMarginValue;
 static ComparationTable comparationParaTabMarginValue;
 
 // @TRMR, @TRFW, @TROP: trimmer; the older switch and the newer list each write their own lines
 static const char prtfmtStrTrimmerValueNone[] = "@PJL SET JOBATTR=%c@TRMR=0%c%c";
 static const void *const cmdParaTrimmerValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerValueNone[] = {Equal(zpjlOptionFeatures.trimmer, OptionTrimmerNone)};
+static const ComparationItem comparationItemTrimmerValueNone[] = {Equal(option.trimmer, OptionTrimmerNone)};
 static CmdParaTable symParaTrimmerValueNone;
 static ComparationTable comparationParaTrimmerValueNone;
 
 static const char prtfmtStrTrimmerValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
-static const void *const cmdParaTrimmerValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.trimmerCuttingSize,
-                                                  &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerValue[] = {Equal(zpjlOptionFeatures.trimmer, OptionTrimmer)};
+static const void *const cmdParaTrimmerValue[] = {&CTRLSym_DOUBLE, option.trimmerCuttingSize, &CTRLSym_DOUBLE,
+                                                  &CTRLSym_LF};
+static const ComparationItem comparationItemTrimmerValue[] = {Equal(option.trimmer, OptionTrimmer)};
 static CmdParaTable symParaTrimmerValue;
 static ComparationTable comparationParaTrimmerValue;
 
 static const char prtfmtStrTrimmerLittleValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
-static const void *const cmdParaTrimmerLittleValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.trimmerCuttingSize,
-                                                        &CTRLSym_DOUBLE, &CTRLSym_LF};
+static const void *const cmdParaTrimmerLittleValue[] = {&CTRLSym_DOUBLE, option.trimmerCuttingSize, &CTRLSym_DOUBLE,
+                                                        &CTRLSym_LF};
 static const ComparationItem comparationItemTrimmerLittleValue[] = {TrimmerCuts};
 static CmdParaTable symParaTrimmerLittleValue;
 static ComparationTable comparationParaTrimmerLittleValue;
 
 static const char prtfmtStrTrimmerWidthValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
-static const void *const cmdParaTrimmerWidthValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.trimmerWidthSize,
-                                                       &CTRLSym_DOUBLE, &CTRLSym_LF};
+static const void *const cmdParaTrimmerWidthValue[] = {&CTRLSym_DOUBLE, option.trimmerWidthSize, &CTRLSym_DOUBLE,
+                                                       &CTRLSym_LF};
 static const ComparationItem comparationItemTrimmerWidthValue[] = {TrimmerCutsTopLower};
 static CmdParaTable symParaTrimmerWidthValue;
 static ComparationTable comparationParaTrimmerWidthValue;
 
 static const char prtfmtStrTrimmerHeightValue[] = "@PJL SET JOBATTR=%c@TRFW=%s%c%c";
-static const void *const cmdParaTrimmerHeightValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.trimmerHeightSize,
-                                                        &CTRLSym_DOUBLE, &CTRLSym_LF};
+static const void *const cmdParaTrimmerHeightValue[] = {&CTRLSym_DOUBLE, option.trimmerHeightSize, &CTRLSym_DOUBLE,
+                                                        &CTRLSym_LF};
 static const ComparationItem comparationItemTrimmerHeightValue[] = {TrimmerCutsTopLower};
 static CmdParaTable symParaTrimmerHeightValue;
 static ComparationTable comparationParaTrimmerHeightValue;
@@ -80,8 +79,8 @@ static CmdParaTable symParaTrimmerHeightValueNone;
 static ComparationTable comparationParaTrimmerHeightValueNone;
 
 static const char prtfmtStrTrimmerAdjustValue[] = "@PJL SET JOBATTR=%c@TROP=%s%c%c";
-static const void *const cmdParaTrimmerAdjustValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.trimmerAdjustSize,
-                                                        &CTRLSym_DOUBLE, &CTRLSym_LF};
+static const void *const cmdParaTrimmerAdjustValue[] = {&CTRLSym_DOUBLE, option.trimmerAdjustSize, &CTRLSym_DOUBLE,
+                                                        &CTRLSym_LF};
 static const ComparationItem comparationItemTrimmerAdjustValue[] = {TrimmerCutsTopLower};
 static CmdParaTable symParaTrimmerAdjustValue;
 static ComparationTable comparationParaTrimmerAdjustValue;
@@ -96,15 +95,14 @@ static ComparationTable comparationParaTrimmerAdjustValueNone;
 static const char prtfmtStrNumInSeqValueNone[] = "@PJL SET JOBATTR=%c@MDOC=0%c%c";
 static const void *const cmdParaNumInSeqValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
 static const ComparationItem comparationItemNumInSeqValueNone[] = {
-    Equal(zpjlOptionFeatures.numInSequence, OptionNumInSequenceNone)};
+    Equal(option.numInSequence, OptionNumInSequenceNone)};
 static CmdParaTable symParaNumInSequenceValueNone;
 static ComparationTable comparationParaNumInSequenceValueNone;
 
 static const char prtfmtStrNumInSeqValue[] = "@PJL SET JOBATTR=%c@MDOC=%s%c%c";
-static const void *const cmdParaNumInSeqValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.numInSequenceStart,
-                                                   &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemNumInSeqValue[] = {
-    Equal(zpjlOptionFeatures.numInSequence, OptionNumInSequence)};
+static const void *const cmdParaNumInSeqValue[] = {&CTRLSym_DOUBLE, option.numInSequenceStart, &CTRLSym_DOUBLE,
+                                                   &CTRLSym_LF};
+static const ComparationItem comparationItemNumInSeqValue[] = {Equal(option.numInSequence, OptionNumInSequence)};
 static CmdParaTable symParaNumInSequenceValue;
 static ComparationTable comparationParaNumInSequenceValue;
 
@@ -122,14 +120,14 @@ static CmdParaTable symParaOffsetStackingTypeCopies;
 static ComparationTable comparationParaOffsetStackingTypeCopies;
 
 static const char prtfmtStrOffsetStackingPagesValue[] = "@PJL SET JOBATTR=%c@OCSN=%s%c%c";
-static const void *const cmdParaOffsetStackingPagesValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.offsetStackingPages,
+static const void *const cmdParaOffsetStackingPagesValue[] = {&CTRLSym_DOUBLE, option.offsetStackingPages,
                                                               &CTRLSym_DOUBLE, &CTRLSym_LF};
 static const ComparationItem comparationItemOffsetStackingPagesValue[] = {OffsetByPages};
 static CmdParaTable symParaOffsetStackingPagesValue;
 static ComparationTable comparationParaOffsetStackingPagesValue;
 
 static const char prtfmtStrOffsetStackingUnitsValue[] = "@PJL SET JOBATTR=%c@OCSN=%s%c%c";
-static const void *const cmdParaOffsetStackingUnitsValue[] = {&CTRLSym_DOUBLE, zpjlOptionFeatures.offsetStackingUnits,
+static const void *const cmdParaOffsetStackingUnitsValue[] = {&CTRLSym_DOUBLE, option.offsetStackingUnits,
                                                               &CTRLSym_DOUBLE, &CTRLSym_LF};
 static const ComparationItem comparationItemOffsetStackingUnitsValue[] = {OffsetByCopies};
 static CmdParaTable symParaOffsetStackingUnitsValue;
@@ -157,28 +155,27 @@ static ComparationTable comparationParaEjectOptionsOffCoilFaceOff;
 
 static const char prtfmtStrEjectOptionsDown[] = "@PJL SET JOBATTR=%c@FACE=DOWN%c%c";
 static const void *const cmdParaEjectOptionsDown[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsDown[] = {
-    Equal(zpjlOptionFeatures.ejectOptions, EjectOptionsDown)};
+static const ComparationItem comparationItemEjectOptionsDown[] = {Equal(option.ejectOptions, EjectOptionsDown)};
 static CmdParaTable symParaEjectOptionsDown;
 static ComparationTable comparationParaEjectOptionsDown;
 
 static const char prtfmtStrEjectOptionsUp[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
 static const void *const cmdParaEjectOptionsUp[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsUp[] = {Equal(zpjlOptionFeatures.ejectOptions, EjectOptionsUp)};
+static const ComparationItem comparationItemEjectOptionsUp[] = {Equal(option.ejectOptions, EjectOptionsUp)};
 static CmdParaTable symParaEjectOptionsUp;
 static ComparationTable comparationParaEjectOptionsUp;
 
 static const char prtfmtStrEjectOptionsDownReverse[] = "@PJL SET JOBATTR=%c@FACE=DOWN_REVERSE%c%c";
 static const void *const cmdParaEjectOptionsDownReverse[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
 static const ComparationItem comparationItemEjectOptionsDownReverse[] = {
-    Equal(zpjlOptionFeatures.ejectOptions, EjectOptionsDownReverse)};
+    Equal(option.ejectOptions, EjectOptionsDownReverse)};
 static CmdParaTable symParaEjectOptionsDownReverse;
 static ComparationTable comparationParaEjectOptionsDownReverse;
 
 static const char prtfmtStrEjectOptionsUpReverse[] = "@PJL SET JOBATTR=%c@FACE=UP_REVERSE%c%c";
 static const void *const cmdParaEjectOptionsUpReverse[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
 static const ComparationItem comparationItemEjectOptionsUpReverse[] = {
-    Equal(zpjlOptionFeatures.ejectOptions, EjectOptionsUpReverse)};
+    Equal(option.ejectOptions, EjectOptionsUpReverse)};
 static CmdParaTable symParaEjectOptionsUpReverse;
 static ComparationTable comparationParaEjectOptionsUpReverse;
 

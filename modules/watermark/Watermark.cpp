@@ -35,43 +35,37 @@ static const char KWMARKHeightTicketKey[] = "com.orvane.dlg.printsettings.WMARKH
 static const char KWMARKhOffsetTicketKey[] = "com.orvane.dlg.printsettings.WMARKhOffsetTicket";
 static const char KWMARKvOffsetTicketKey[] = "com.orvane.dlg.printsettings.WMARKvOffsetTicket";
 
-static constexpr ticketData Number(const char *key, int32_t &field)
-{
-    return {key, &field, sizeof field, GetTicketInteger};
-}
-
-static constexpr ticketData Decimal(const char *key, float &field)
-{
-    return {key, &field, sizeof field, GetTicketFloat};
-}
+static constexpr WatermarkOptions &option = psOptionWatermark;
+static constexpr TicketGetter Integer = GetTicketInteger;
+static constexpr TicketGetter Decimal = GetTicketFloat;
+static constexpr TicketGetter Text = GetTicketStringConvertedToPrtLang;
 
 static const ticketData WatermarkticketData[] = {
-    {kWMNameTicketKey, psOptionWatermark.name, sizeof psOptionWatermark.name, GetTicketString},
-    Number(kWMARKOptionsTicketKey, psOptionWatermark.options),
-    Number(kWMARKOnlyFirstTicketKey, psOptionWatermark.onlyFirstPage),
-    {kWMARKTextTicketKey, psOptionWatermark.text, sizeof psOptionWatermark.text, GetTicketStringConvertedToPrtLang},
-    Number(KWMOrientationTicketKey, psOptionWatermark.orientation),
-    Number(KWMPaperHeightTicketKey, psOptionWatermark.paperHeight),
-    Number(KWMPaperWidthTicketKey, psOptionWatermark.paperWidth),
-    {kWMARKFilePathTicketKey, psOptionWatermark.filePath, sizeof psOptionWatermark.filePath,
-     GetTicketStringConvertedToPrtLang},
-    Number(kWMARKTypeTicketKey, psOptionWatermark.type),
-    {kWMARKFontTicketKey, psOptionWatermark.font, sizeof psOptionWatermark.font, GetTicketString},
-    Number(kWMARKFontSizeTicketKey, psOptionWatermark.fontSize),
-    Number(kWMARKFontTypeTicketKey, psOptionWatermark.fontType),
-    Decimal(kWMARKColorRTicketKey, psOptionWatermark.red),
-    Decimal(kWMARKColorGTicketKey, psOptionWatermark.green),
-    Decimal(kWMARKColorBTicketKey, psOptionWatermark.blue),
-    Decimal(kWMARKColorATicketKey, psOptionWatermark.alpha),
-    Number(kWMARKAngleTicketKey, psOptionWatermark.angle),
-    Number(kWMARKDensityTicketKey, psOptionWatermark.density),
-    Decimal(kWMARKScaleTicketKey, psOptionWatermark.scale),
-    Decimal(kWMARKPosHorizontalTicketKey, psOptionWatermark.horizontalPosition),
-    Decimal(kWMARKPosVerticalTicketKey, psOptionWatermark.verticalPosition),
-    Decimal(KWMARKWidthTicketKey, psOptionWatermark.boxWidth),
-    Decimal(KWMARKHeightTicketKey, psOptionWatermark.boxHeight),
-    Decimal(KWMARKhOffsetTicketKey, psOptionWatermark.horizontalOffset),
-    Decimal(KWMARKvOffsetTicketKey, psOptionWatermark.verticalOffset),
+    {kWMNameTicketKey, option.name, sizeof option.name, GetTicketString},
+    {kWMARKOptionsTicketKey, &option.options, sizeof option.options, Integer},
+    {kWMARKOnlyFirstTicketKey, &option.onlyFirstPage, sizeof option.onlyFirstPage, Integer},
+    {kWMARKTextTicketKey, option.text, sizeof option.text, Text},
+    {KWMOrientationTicketKey, &option.orientation, sizeof option.orientation, Integer},
+    {KWMPaperHeightTicketKey, &option.paperHeight, sizeof option.paperHeight, Integer},
+    {KWMPaperWidthTicketKey, &option.paperWidth, sizeof option.paperWidth, Integer},
+    {kWMARKFilePathTicketKey, option.filePath, sizeof option.filePath, Text},
+    {kWMARKTypeTicketKey, &option.type, sizeof option.type, Integer},
+    {kWMARKFontTicketKey, option.font, sizeof option.font, GetTicketString},
+    {kWMARKFontSizeTicketKey, &option.fontSize, sizeof option.fontSize, Integer},
+    {kWMARKFontTypeTicketKey, &option.fontType, sizeof option.fontType, Integer},
+    {kWMARKColorRTicketKey, &option.red, sizeof option.red, Decimal},
+    {kWMARKColorGTicketKey, &option.green, sizeof option.green, Decimal},
+    {kWMARKColorBTicketKey, &option.blue, sizeof option.blue, Decimal},
+    {kWMARKColorATicketKey, &option.alpha, sizeof option.alpha, Decimal},
+    {kWMARKAngleTicketKey, &option.angle, sizeof option.angle, Integer},
+    {kWMARKDensityTicketKey, &option.density, sizeof option.density, Integer},
+    {kWMARKScaleTicketKey, &option.scale, sizeof option.scale, Decimal},
+    {kWMARKPosHorizontalTicketKey, &option.horizontalPosition, sizeof option.horizontalPosition, Decimal},
+    {kWMARKPosVerticalTicketKey, &option.verticalPosition, sizeof option.verticalPosition, Decimal},
+    {KWMARKWidthTicketKey, &option.boxWidth, sizeof option.boxWidth, Decimal},
+    {KWMARKHeightTicketKey, &option.boxHeight, sizeof option.boxHeight, Decimal},
+    {KWMARKhOffsetTicketKey, &option.horizontalOffset, sizeof option.horizontalOffset, Decimal},
+    {KWMARKvOffsetTicketKey, &option.verticalOffset, sizeof option.verticalOffset, Decimal},
 };
 
 // A block of a text watermark.
@@ -114,8 +108,8 @@ struct HalfDiagonal {
 
 static HalfDiagonal TurnedHalfDiagonal(double radians)
 {
-    const double halfWidth = 0.5 * psOptionWatermark.boxWidth;
-    const double halfHeight = 0.5 * psOptionWatermark.boxHeight;
+    const double halfWidth = 0.5 * option.boxWidth;
+    const double halfHeight = 0.5 * option.boxHeight;
     const double cosine = std::cos(radians);
     const double sine = std::sin(radians);
     return {static_cast<float>(cosine * halfWidth - sine * halfHeight),
@@ -124,11 +118,11 @@ static HalfDiagonal TurnedHalfDiagonal(double radians)
 
 void GetWatermarkPostion(float &x, float &y, float horizontalOffset, float verticalOffset)
 {
-    const float halfPaperWidth = static_cast<float>(psOptionWatermark.paperWidth) / 2;
-    const float halfPaperHeight = static_cast<float>(psOptionWatermark.paperHeight) / 2;
+    const float halfPaperWidth = static_cast<float>(option.paperWidth) / 2;
+    const float halfPaperHeight = static_cast<float>(option.paperHeight) / 2;
     float centreX = 0;
     float centreY = 0;
-    switch (psOptionWatermark.orientation) {
+    switch (option.orientation) {
     case 1:
     case 3:
         centreX = halfPaperWidth;
@@ -141,9 +135,9 @@ void GetWatermarkPostion(float &x, float &y, float horizontalOffset, float verti
         break;
     }
 
-    // Each quadrant is turned back to the first. The constants show in the printed digits.
-    const uint32_t angle = static_cast<uint32_t>(psOptionWatermark.angle);
-    const double radians = psOptionWatermark.angle * 3.1415926 / 180.0;
+    // Each quadrant is turned back to the first; the digits of the constants are part of the result.
+    const uint32_t angle = static_cast<uint32_t>(option.angle);
+    const double radians = option.angle * 3.1415926 / 180.0;
     if (angle <= 90) {
         const auto [along, across] = TurnedHalfDiagonal(radians);
         x = centreX - along;
@@ -171,18 +165,17 @@ void GetWatermarkPostion(float &x, float &y, float horizontalOffset, float verti
 // Font and text go out as they stand.
 static void OutputDrawing(FILE *stream)
 {
-    const WatermarkOptions &mark = psOptionWatermark;
-    const float density = static_cast<float>(mark.density) / 100;
+    const float density = static_cast<float>(option.density) / 100;
     float x;
     float y;
-    GetWatermarkPostion(x, y, mark.horizontalOffset, mark.verticalOffset);
+    GetWatermarkPostion(x, y, option.horizontalOffset, option.verticalOffset);
 
-    QBfprintfCut(stream, kDirectLineSize, "%.2f %.2f %.2f setrgbcolor\n", Lighten(mark.red, density),
-                 Lighten(mark.green, density), Lighten(mark.blue, density));
-    QBfprintfCut(stream, kDirectLineSize, "/%s %d selectfont\n", mark.font, mark.fontSize);
+    QBfprintfCut(stream, kDirectLineSize, "%.2f %.2f %.2f setrgbcolor\n", Lighten(option.red, density),
+                 Lighten(option.green, density), Lighten(option.blue, density));
+    QBfprintfCut(stream, kDirectLineSize, "/%s %d selectfont\n", option.font, option.fontSize);
     QBfprintfCut(stream, kDirectLineSize, "%.2f %.2f moveto\n", x, y);
-    QBfprintfCut(stream, kDirectLineSize, "%d rotate\n", mark.angle);
-    QBfprintfCut(stream, kDirectLineSize, "%s show\n", mark.text);
+    QBfprintfCut(stream, kDirectLineSize, "%d rotate\n", option.angle);
+    QBfprintfCut(stream, kDirectLineSize, "%s show\n", option.text);
     QBfprintf(stream, "grestore\n");
 }
 
@@ -193,9 +186,9 @@ void WatermarkGetTicketFromPDE(const char *const *argv)
 
 void WatermarkOutputPSCommandFromFilter(int32_t event, int32_t, FILE *stream)
 {
-    if (psOptionWatermark.name[0] == '\0' || psOptionWatermark.type != 0)
+    if (option.name[0] == '\0' || option.type != 0)
         return;
-    psOptionWatermark.options = 1;
+    option.options = 1;
 
     for (TextWatermarkBlock &block : InjectTextWatermark) {
         if (block.event != event || block.bToPrint != 1)
@@ -203,6 +196,6 @@ void WatermarkOutputPSCommandFromFilter(int32_t event, int32_t, FILE *stream)
         QBfprintf(stream, block.opening);
         if (block.draws)
             OutputDrawing(stream);
-        block.bToPrint = !psOptionWatermark.onlyFirstPage;
+        block.bToPrint = !option.onlyFirstPage;
     }
 }

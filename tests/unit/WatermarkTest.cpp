@@ -54,13 +54,14 @@ TEST(Watermark, OrientationChoosesThePageCentre)
 
 TEST(Watermark, TurnedBoxIsCentredInEachQuadrant)
 {
-    const Origin origins[] = {
-        {0, 147.5F, 381.0F},         {30, 187.5962F, 311.3590F},  {90, 337.5F, 271.0F},
-        {91, 340.1118F, 271.7209F},  {135, 431.8503F, 343.2183F}, {180, 447.5F, 461.0F},
-        {181, 446.7791F, 463.6118F}, {225, 375.2817F, 555.3503F}, {270, 257.5F, 571.0F},
-        {271, 254.8882F, 570.2791F}, {300, 187.8590F, 530.9038F}, {360, 147.5F, 381.0F},
-        {-45, 0.0F, 0.0F},           {-1, 0.0F, 0.0F},            {361, 0.0F, 0.0F},
-        {400, 0.0F, 0.0F}};
+    const Origin origins[] = {{0, 147.5F, 381.0F},         {30, 187.5962F, 311.3590F},
+                              {90, 337.5F, 271.0F},        {91, 340.1118F, 271.7209F},
+                              {135, 431.8503F, 343.2183F}, {180, 447.5F, 461.0F},
+                              {181, 446.7791F, 463.6118F}, {225, 375.2817F, 555.3503F},
+                              {270, 257.5F, 571.0F},       {271, 254.8882F, 570.2791F},
+                              {300, 187.8590F, 530.9038F}, {360, 147.5F, 381.0F},
+                              {-45, 0.0F, 0.0F},           {-1, 0.0F, 0.0F},
+                              {361, 0.0F, 0.0F},           {400, 0.0F, 0.0F}};
     psOptionWatermark = SampleMark();
     for (const Origin &origin : origins) {
         psOptionWatermark.angle = origin.setting;
@@ -72,9 +73,9 @@ TEST(Watermark, TurnedBoxIsCentredInEachQuadrant)
 // the end of the box by 0.0134 where a quadrant ends and by nothing where the next begins.
 TEST(Watermark, QuadrantsEndAfterTheirQuarterTurn)
 {
-    const Origin origins[] = {{90, 347.4866F, -499579.0F},    {91, 9073.6956F, -499501.9750F},
-                              {180, 500297.5F, 470.9866F},    {181, 500220.4750F, 9197.1956F},
-                              {270, 247.5134F, 500421.0F},    {271, -8478.6956F, 500343.9750F},
+    const Origin origins[] = {{90, 347.4866F, -499579.0F}, {91, 9073.6956F, -499501.9750F},
+                              {180, 500297.5F, 470.9866F}, {181, 500220.4750F, 9197.1956F},
+                              {270, 247.5134F, 500421.0F}, {271, -8478.6956F, 500343.9750F},
                               {360, -499702.5F, 371.0134F}};
     psOptionWatermark = SampleMark();
     psOptionWatermark.boxWidth = 1e6F;

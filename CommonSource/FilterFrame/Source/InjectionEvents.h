@@ -1,5 +1,5 @@
 // InjectionEvents: the points of a document at which modules put PostScript of their own.
-// Each is a marker line of the document; 25, 26 and 29 have none.
+// Each but the last is a marker line of the document.
 #pragma once
 
 #include <cstdint>
