@@ -52,7 +52,8 @@ static const char kJBAInputUserIDPasswordTextEditTicketKey[] =
 static const char kJBAInputAccountIDTextEditTicketKey[] =
     "com.orvane.dlg.printsettings.JBAInputAccountIDTextEditTicket";
 
-// The system's flattened print settings. A paper rectangle is {top, left, bottom, right} by the number after "..a.".
+// The system's flattened print settings. The number behind "..a." is a paper rectangle's: 0 the origin's y, 1 its x,
+// 2 the height, 3 the width.
 #define PAPER_RECT "com.apple.print.subTicket.paper_info_ticket..d.com.apple.print.PaperInfo.PMUnadjustedPaperRect"
 #define PAGE_FORMAT "com.apple.print.subTicket.page_format_ticket..d."
 static const char kLayoutRowCountTicketKey[] = "com.apple.print.PrintSettings.PMLayoutRows..n.";

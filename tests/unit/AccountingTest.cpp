@@ -1,7 +1,6 @@
 // Job accounting where no job gets to, and that it names one user, password and account whatever is filled in.
 #include "JBA.h"
 #include "JobState.h"
-#include "TicketReader.h"
 
 #include <cstring>
 #include <gtest/gtest.h>

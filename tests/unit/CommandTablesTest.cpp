@@ -6,6 +6,7 @@
 #include "PrintType.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <regex>
 #include <span>
