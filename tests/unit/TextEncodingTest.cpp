@@ -132,12 +132,3 @@ TEST(TextEncoding, FindsWhatShiftJISCannotCarry)
     for (const char *text : {"日本é", "😀", "\\한"})
         EXPECT_TRUE(checkIfCharacterIsMultibyte(text)) << text;
 }
-
-TEST(TextEncoding, DecodesShiftJIS)
-{
-    std::u16string units;
-    EXPECT_TRUE(PlatformDecodeShiftJIS("a\\\x93\xFA\x82\xA9\xB1", units));
-    EXPECT_EQ(units, u"a\\日かｱ");
-    for (const char *text : {"\x93", "a\x93\xFA\x96", "\xFD", "\x93\x20"})
-        EXPECT_FALSE(PlatformDecodeShiftJIS(text, units)) << text;
-}
