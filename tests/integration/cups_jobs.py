@@ -124,10 +124,13 @@ class Jobs(unittest.TestCase):
         """Prints the document and returns the job's bytes and what was logged about it."""
         index = len(self.printer.jobs)
         name = self.cups.lp(queue, document, "Monthly report", options)
-        if meanwhile:
-            meanwhile(name, index)
-        wait_for(lambda: self.printer.ended > index, f"the last byte of {name}")
-        self.cups.wait_done(name)
+        try:
+            if meanwhile:
+                meanwhile(name, index)
+            wait_for(lambda: self.printer.ended > index, f"the last byte of {name}")
+            self.cups.wait_done(name)
+        except TimeoutError as error:
+            self.fail("\n".join([str(error), *self.cups.log_of(name)]))
         return bytes(self.printer.jobs[index]), "\n".join(self.cups.log_of(name))
 
     def check_document(self, job, log):

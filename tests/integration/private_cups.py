@@ -64,12 +64,12 @@ class PrivateCups:
         os.chmod(self.root, 0o755)
         self._make_server_bin()
         self._write_configuration()
-        self.environment = dict(os.environ, CUPS_SERVER=self.path("cups.sock"), HOME=self.root, LC_ALL="C")
+        self.environment = dict(os.environ, CUPS_SERVER=self.path("cups.sock"), HOME=self.root, LC_ALL="C",
+                                PATH=os.environ["PATH"] + ":/usr/sbin:/sbin")  # where lpadmin is
         with open(self.path("cupsd.out"), "wb") as out:
             self.server = subprocess.Popen(
-                [shutil.which("cupsd", path=os.environ["PATH"] + ":/usr/sbin"), "-f",
-                 "-c", self.path("cupsd.conf"), "-s", self.path("cups-files.conf")],
-                stdin=subprocess.DEVNULL, stdout=out, stderr=out)
+                ["cupsd", "-f", "-c", self.path("cupsd.conf"), "-s", self.path("cups-files.conf")],
+                env=self.environment, stdin=subprocess.DEVNULL, stdout=out, stderr=out)
         try:
             wait_for(self._running, "cupsd")
         except BaseException:
