@@ -23,10 +23,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-static const char kUsage[] =
-    "Usage: pstoorvane job-id user title copies options [file]\n"
-    "       pstoorvane --version | --help\n"
-    "A CUPS filter: turns PostScript into a PJL job for the queue whose PPD the variable PPD names. See pstoorvane(8).\n";
+static const char kUsage[] = "Usage: pstoorvane job-id user title copies options [file]\n";
+static const char kHelp[] = "       pstoorvane --version | --help\n"
+                            "A CUPS filter: turns PostScript into a PJL job for the queue whose PPD the variable PPD "
+                            "names. See pstoorvane(8).\n";
 static constexpr size_t kJobCopyPathSize = 1035;
 static constexpr size_t kTimestampSize = 64;
 static constexpr mode_t kJobCopyMode = 0676;
@@ -186,7 +186,7 @@ static bool AnswersWithoutJob(int argc, const char *const *argv)
     if (strcmp(argv[1], "--version") == 0)
         puts("pstoorvane " OV_VERSION);
     else if (strcmp(argv[1], "--help") == 0)
-        fputs(kUsage, stdout);
+        printf("%s%s", kUsage, kHelp);
     else
         return false;
     return true;
