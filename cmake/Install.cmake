@@ -31,7 +31,7 @@ add_custom_target(compressed ALL DEPENDS ${man_page}.gz ${changelog}.gz)
 # CUPS refuses a filter that others may write.
 set(everyone_runs OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${everyone_runs})
-install(PROGRAMS $<TARGET_FILE:pstoorvane> DESTINATION ${OV_FILTER_DIR} PERMISSIONS ${everyone_runs})
+install(TARGETS pstoorvane DESTINATION ${OV_FILTER_DIR} PERMISSIONS ${everyone_runs})
 install(DIRECTORY ${PROJECT_BINARY_DIR}/ppd/ DESTINATION ${OV_MODEL_DIR}
   FILES_MATCHING REGEX "/ppd/[a-z]+\\.ppd$" PATTERN compiled EXCLUDE PATTERN CMakeFiles EXCLUDE)
 install(FILES ${man_page}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)

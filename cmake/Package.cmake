@@ -5,10 +5,10 @@ set(OV_MAINTAINER "Orvane filter maintainers <maintainers@orvane.example>"
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "${OV_MAINTAINER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "PostScript filter and queues for Orvane printers")
-set(CPACK_PACKAGE_DESCRIPTION "A CUPS filter that turns a PostScript job into a PJL job with the settings\n"
+string(CONCAT CPACK_PACKAGE_DESCRIPTION
+  "A CUPS filter that turns a PostScript job into a PJL job with the settings\n"
   "that the printer cannot read from PostScript: held jobs, job accounting,\n"
   "finishing, perfect binding, special pages and watermarks.")
-string(CONCAT CPACK_PACKAGE_DESCRIPTION ${CPACK_PACKAGE_DESCRIPTION})
 if(OV_DEVELOPMENT_KEYS)
   string(APPEND CPACK_PACKAGE_DESCRIPTION "\n\nThis package is built with the DEVELOPMENT keys, which are public: whoever\n"
     "sees a job can read its passwords. Use it for tests only.")
