@@ -35,5 +35,5 @@ install(TARGETS pstoorvane DESTINATION ${OV_FILTER_DIR} PERMISSIONS ${everyone_r
 install(DIRECTORY ${PROJECT_BINARY_DIR}/ppd/ DESTINATION ${OV_MODEL_DIR}
   FILES_MATCHING REGEX "/ppd/[a-z]+\\.ppd$" PATTERN compiled EXCLUDE PATTERN CMakeFiles EXCLUDE)
 install(FILES ${man_page}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
-install(FILES ${changelog}.gz packaging/copyright docs/tickets.md docs/debugging.md
+install(FILES ${changelog}.gz packaging/copyright docs/tickets.md docs/debugging.md docs/passwords.md
   docs/product-configuration.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/pstoorvane)
