@@ -33,25 +33,73 @@ static const PSMarker *FindMarker(std::string_view line)
     return nullptr;
 }
 
-// The first byte tells almost every line of a document from the markers.
-static bool CanBeMarker(std::string_view line)
+// Bytes looked at together, and the length of common lines.
+static constexpr ptrdiff_t kScanStep = 64;
+static constexpr ptrdiff_t kShortLine = 256;
+
+// The first position in [from, end) at which the test holds, or `end`. Steps without one are passed over in loops that
+// compilers turn into vector instructions, so the test must be free of branches.
+template <typename Test> static const char *FindPosition(const char *from, const char *end, Test test)
 {
-    switch (line.empty() ? '\0' : line.front()) {
-    case '%':
-    case 'b':
-    case 'e':
-    case 's':
-    case 'u':
-        return true;
-    default:
-        return false;
+    for (; end - from >= kScanStep; from += kScanStep) {
+        unsigned char any = 0;
+        for (ptrdiff_t i = 0; i < kScanStep; i++)
+            any |= test(from + i);
+        if (any)
+            break;
     }
+    while (from < end && !test(from))
+        from++;
+    return from;
 }
 
-static const char *Find(const char *from, const char *end, char byte)
+static unsigned char IsLineEnd(const char *at)
 {
-    const void *found = memchr(from, byte, static_cast<size_t>(end - from));
-    return found ? static_cast<const char *>(found) : end;
+    return static_cast<unsigned char>((*at == '\n') | (*at == '\r'));
+}
+
+// The first byte tells almost every line of a document from the markers and the watched prefix.
+static unsigned char CanBeMarker(const char *at)
+{
+    return static_cast<unsigned char>((*at == '%') | (*at == 'b') | (*at == 'e') | (*at == 's') | (*at == 'u'));
+}
+
+static unsigned char EndsBeforeMarker(const char *at)
+{
+    return IsLineEnd(at) & CanBeMarker(at + 1);
+}
+
+// The last CR or LF in [from, end), or null.
+static const char *FindLastLineEnd(const char *from, const char *end)
+{
+    while (end > from)
+        if (IsLineEnd(--end))
+            return end;
+    return nullptr;
+}
+
+// A CR or LF in [from, end), the last one where lines are short, or `end`.
+static const char *FindLateLineEnd(const char *from, const char *end)
+{
+    const char *const late = FindLastLineEnd(end - std::min(end - from, kShortLine), end);
+    return late ? late : FindPosition(from, end, IsLineEnd);
+}
+
+static const char *FindWord(const char *from, const char *end, std::string_view word)
+{
+    const size_t last = word.size() - 1;
+    if (end - from <= static_cast<ptrdiff_t>(last))
+        return end;
+    const char *const stop = end - last;
+    for (;; from++) {
+        from = FindPosition(from, stop, [firstByte = word[0], lastByte = word[last], last](const char *at) {
+            return static_cast<unsigned char>((at[0] == firstByte) & (at[last] == lastByte));
+        });
+        if (from == stop)
+            return end;
+        if (memcmp(from, word.data(), word.size()) == 0)
+            return from;
+    }
 }
 
 void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
@@ -63,39 +111,34 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
     reader.watch = watch;
     reader.end = reader.block;
     reader.written = reader.line = reader.lineEnd = reader.block;
-    reader.nextCR = reader.nextLF = reader.block;
     std::ranges::fill(reader.nextWord, nullptr);
     reader.marker = nullptr;
     reader.last = '\0';
 }
 
-// The first CR or LF at or after the line's begin.
-static const char *FindLineEnd(PSLineReader &reader)
+// The begin of the first line that may be of interest and has its end in [line, lineEnd]; null when there is none.
+static const char *FindCandidate(PSLineReader &reader, const char *lineEnd)
 {
-    if (reader.nextCR < reader.line)
-        reader.nextCR = Find(reader.line, reader.end, '\r');
-    if (reader.nextLF < reader.line)
-        reader.nextLF = Find(reader.line, reader.end, '\n');
-    return std::min(reader.nextCR, reader.nextLF);
+    const char *candidate = reader.line;
+    if (!CanBeMarker(candidate))
+        candidate = FindPosition(reader.line, lineEnd, EndsBeforeMarker) + 1;
+    for (size_t i = 0; reader.watch && i < kPSWatchWords; i++) {
+        if (!reader.nextWord[i] || reader.nextWord[i] < reader.line)
+            reader.nextWord[i] = FindWord(reader.line, reader.end, reader.watch->words[i]);
+        if (reader.nextWord[i] < candidate) {
+            const char *const before = FindLastLineEnd(reader.line, reader.nextWord[i]);
+            candidate = before ? before + 1 : reader.line;
+        }
+    }
+    return candidate <= lineEnd ? candidate : nullptr;
 }
 
-static bool IsWatched(PSLineReader &reader)
+static bool IsWatched(const PSLineReader &reader)
 {
     if (!reader.watch)
         return false;
-    if (CurrentPSLine(reader).starts_with(reader.watch->prefix))
-        return true;
-    for (size_t i = 0; i < kPSWatchWords; i++) {
-        if (!reader.nextWord[i] || reader.nextWord[i] < reader.line) {
-            const std::string_view word = reader.watch->words[i];
-            const void *found =
-                memmem(reader.line, static_cast<size_t>(reader.end - reader.line), word.data(), word.size());
-            reader.nextWord[i] = found ? static_cast<const char *>(found) : reader.end;
-        }
-        if (reader.nextWord[i] < reader.lineEnd)
-            return true;
-    }
-    return false;
+    return CurrentPSLine(reader).starts_with(reader.watch->prefix) ||
+           std::ranges::any_of(reader.nextWord, [&reader](const char *word) { return word < reader.lineEnd; });
 }
 
 static void WriteUpTo(PSLineReader &reader, const char *position)
@@ -138,8 +181,6 @@ static bool Refill(PSLineReader &reader)
     }
     reader.end = reader.block + unfinished + count;
     reader.last = reader.end[-1];
-    reader.nextCR = Find(reader.line, reader.end, '\r');
-    reader.nextLF = Find(reader.line, reader.end, '\n');
     std::ranges::fill(reader.nextWord, nullptr);
     return true;
 }
@@ -149,21 +190,29 @@ bool NextPSLine(PSLineReader &reader)
     if (reader.lineEnd < reader.end)
         reader.line = reader.lineEnd + 1;
     for (;;) {
-        const char *const lineEnd = FindLineEnd(reader);
-        if (static_cast<size_t>(lineEnd - reader.line) >= kPSLineLimit) {
-            reader.line += kPSLineLimit;
-        } else if (lineEnd == reader.end) {
-            if (!Refill(reader)) {
+        // What lies before the limit and has a line end is lines that are short enough to be examined.
+        const char *const limit = reader.line + std::min<ptrdiff_t>(reader.end - reader.line, kPSLineLimit);
+        const char *const lineEnd = FindLateLineEnd(reader.line, limit);
+        if (lineEnd == limit) {
+            if (limit - reader.line == kPSLineLimit) {
+                reader.line = limit;
+            } else if (!Refill(reader)) {
                 reader.lineEnd = reader.end;
                 return false;
             }
-        } else {
-            reader.lineEnd = lineEnd;
-            reader.marker = CanBeMarker(CurrentPSLine(reader)) ? FindMarker(CurrentPSLine(reader)) : nullptr;
-            if (reader.marker || IsWatched(reader))
-                return true;
-            reader.line = lineEnd + 1;
+            continue;
         }
+        const char *const candidate = FindCandidate(reader, lineEnd);
+        if (!candidate) {
+            reader.line = lineEnd + 1;
+            continue;
+        }
+        reader.line = candidate;
+        reader.lineEnd = FindPosition(candidate, lineEnd, IsLineEnd);
+        reader.marker = FindMarker(CurrentPSLine(reader));
+        if (reader.marker || IsWatched(reader))
+            return true;
+        reader.line = reader.lineEnd + 1;
     }
 }
 

@@ -11,7 +11,7 @@
 // A line ends at a CR or LF, each by itself. One that holds this many bytes without an end is let through unexamined;
 // what follows is a line of its own.
 constexpr size_t kPSLineLimit = 8065;
-constexpr size_t kPSBlockSize = 65536;
+constexpr size_t kPSBlockSize = 131072;
 
 // Markers ask for these.
 enum PSMarkerRules : uint32_t {
@@ -50,10 +50,8 @@ struct PSLineReader {
     const char *written;
     const char *line;
     const char *lineEnd;
-    char *end;          // of the bytes read
-    const char *nextCR; // the first at or after `line`, or `end`; looked for anew when `line` has passed it
-    const char *nextLF;
-    const char *nextWord[kPSWatchWords]; // null when not looked for yet
+    char *end;                           // of the bytes read
+    const char *nextWord[kPSWatchWords]; // the first at or after `line`, or `end`; null when not looked for
     const PSMarker *marker;              // the current line's, or null
     char last;                           // last byte of the input, 0 when it is empty
 };
