@@ -105,7 +105,7 @@ Names InManual()
     const std::string section = text.substr(start, text.find("\n.SH", start) - start);
     Names names;
     for (std::sregex_iterator it(section.begin(), section.end(), entry), end; it != end; ++it)
-        names.insert(FullName(std::regex_replace((*it)[1].str(), std::regex(R"(\\-)"), "-")));
+        names.insert(FullName(std::regex_replace((*it)[1].str(), std::regex(R"(\\(-?):?)"), "$1")));
     return names;
 }
 
