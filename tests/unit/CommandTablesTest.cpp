@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <regex>
+#include <regex.h>
 #include <span>
 #include <string>
 #include <utility>
@@ -62,7 +62,8 @@ static std::string SampleLine(const FmtTableRow &row, int32_t &symbols)
 TEST(CommandTables, LinesAreWellFormed)
 {
     InializeDescriptionTableFromFilter();
-    const std::regex wellFormed("@PJL SET [A-Z]+=(\"[^\"\\r\\n]*\"|[^\"\\r\\n]+)\\r?\\n");
+    regex_t wellFormed;
+    ASSERT_EQ(regcomp(&wellFormed, "^@PJL SET [A-Z]+=(\"[^\"\r\n]*\"|[^\"\r\n]+)\r?\n$", REG_EXTENDED | REG_NOSUB), 0);
     for (const CommandTable &table : tables) {
         EXPECT_EQ(table.count, table.rows) << table.name;
         int32_t spare = 0;
@@ -70,11 +71,13 @@ TEST(CommandTables, LinesAreWellFormed)
             const FmtTableRow &row = table.list[i];
             int32_t symbols = 0;
             const std::string line = SampleLine(row, symbols);
-            EXPECT_TRUE(std::regex_match(line, wellFormed)) << table.name << ' ' << i + 1 << ": " << line;
+            EXPECT_EQ(regexec(&wellFormed, line.c_str(), 0, nullptr, 0), 0)
+                << table.name << ' ' << i + 1 << ": " << line;
             spare += (row.symPara ? row.symPara->count : 0) - symbols;
         }
         EXPECT_EQ(spare, table.spare) << table.name;
     }
+    regfree(&wellFormed);
 }
 
 TEST(CommandTables, DescriptorsAreFilled)
