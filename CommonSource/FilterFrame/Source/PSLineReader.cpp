@@ -33,47 +33,48 @@ static const PSMarker *FindMarker(std::string_view line)
     return nullptr;
 }
 
-// Bytes looked at together, and the length of common lines.
-static constexpr ptrdiff_t kScanStep = 64;
+// Bytes that are compared at once, how many of them are looked at together, and the length of common lines.
+using Bytes = char __attribute__((vector_size(16)));
+static constexpr ptrdiff_t kScanStep = 4 * sizeof(Bytes);
 static constexpr ptrdiff_t kShortLine = 256;
 
-// The first position in [from, end) at which the test holds, or `end`. Steps without one are passed over in loops that
-// compilers turn into vector instructions, so the test must be free of branches.
-template <typename Test> static const char *FindPosition(const char *from, const char *end, Test test)
+// The first position in [from, end) at which the test holds for the byte there and the one `offset` behind it, or
+// `end`. The test takes single bytes or vectors of them.
+template <typename Test> static const char *FindPosition(const char *from, const char *end, size_t offset, Test test)
 {
     for (; end - from >= kScanStep; from += kScanStep) {
-        unsigned char any = 0;
-        for (ptrdiff_t i = 0; i < kScanStep; i++)
-            any |= test(from + i);
-        if (any)
+        decltype(test(Bytes{}, Bytes{})) any = {};
+        for (const char *at = from; at < from + kScanStep; at += sizeof(Bytes)) {
+            Bytes bytes, others;
+            memcpy(&bytes, at, sizeof bytes);
+            memcpy(&others, at + offset, sizeof others);
+            any |= test(bytes, others);
+        }
+        uint64_t halves[2];
+        static_assert(sizeof halves == sizeof any);
+        memcpy(halves, &any, sizeof halves);
+        if (halves[0] | halves[1])
             break;
     }
-    while (from < end && !test(from))
+    while (from < end && !test(from[0], from[offset]))
         from++;
     return from;
 }
 
-static unsigned char IsLineEnd(const char *at)
-{
-    return static_cast<unsigned char>((*at == '\n') | (*at == '\r'));
-}
+static constexpr auto isLineEnd = [](auto byte, auto) { return (byte == '\n') | (byte == '\r'); };
 
 // The first byte tells almost every line of a document from the markers and the watched prefix.
-static unsigned char CanBeMarker(const char *at)
-{
-    return static_cast<unsigned char>((*at == '%') | (*at == 'b') | (*at == 'e') | (*at == 's') | (*at == 'u'));
-}
+static constexpr auto canBeMarker = [](auto first) {
+    return (first == '%') | (first == 'b') | (first == 'e') | (first == 's') | (first == 'u');
+};
 
-static unsigned char EndsBeforeMarker(const char *at)
-{
-    return IsLineEnd(at) & CanBeMarker(at + 1);
-}
+static constexpr auto endsBeforeMarker = [](auto byte, auto next) { return isLineEnd(byte, next) & canBeMarker(next); };
 
 // The last CR or LF in [from, end), or null.
 static const char *FindLastLineEnd(const char *from, const char *end)
 {
     while (end > from)
-        if (IsLineEnd(--end))
+        if (isLineEnd(*--end, 0))
             return end;
     return nullptr;
 }
@@ -82,24 +83,23 @@ static const char *FindLastLineEnd(const char *from, const char *end)
 static const char *FindLateLineEnd(const char *from, const char *end)
 {
     const char *const late = FindLastLineEnd(end - std::min(end - from, kShortLine), end);
-    return late ? late : FindPosition(from, end, IsLineEnd);
+    return late ? late : FindPosition(from, end, 0, isLineEnd);
 }
 
-static const char *FindWord(const char *from, const char *end, std::string_view word)
+// The first of the watched words in [from, end), or `end`.
+static const char *FindWord(const char *from, const char *end, const PSWatch &watch)
 {
-    const size_t last = word.size() - 1;
-    if (end - from <= static_cast<ptrdiff_t>(last))
+    constexpr size_t last = kPSWordLength - 1;
+    const auto &[one, other] = watch.words;
+    const auto framesWord = [a = one[0], b = other[0], c = one[last], d = other[last]](auto byte, auto behind) {
+        return ((byte == a) & (behind == c)) | ((byte == b) & (behind == d));
+    };
+    if (end - from < static_cast<ptrdiff_t>(kPSWordLength))
         return end;
-    const char *const stop = end - last;
-    for (;; from++) {
-        from = FindPosition(from, stop, [firstByte = word[0], lastByte = word[last], last](const char *at) {
-            return static_cast<unsigned char>((at[0] == firstByte) & (at[last] == lastByte));
-        });
-        if (from == stop)
-            return end;
-        if (memcmp(from, word.data(), word.size()) == 0)
+    for (const char *const stop = end - last; (from = FindPosition(from, stop, last, framesWord)) < stop; from++)
+        if (const std::string_view word(from, kPSWordLength); word == one || word == other)
             return from;
-    }
+    return end;
 }
 
 void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
@@ -111,7 +111,7 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
     reader.watch = watch;
     reader.end = reader.block;
     reader.written = reader.line = reader.lineEnd = reader.block;
-    std::ranges::fill(reader.nextWord, nullptr);
+    reader.nextWord = nullptr;
     reader.marker = nullptr;
     reader.last = '\0';
 }
@@ -120,13 +120,13 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
 static const char *FindCandidate(PSLineReader &reader, const char *lineEnd)
 {
     const char *candidate = reader.line;
-    if (!CanBeMarker(candidate))
-        candidate = FindPosition(reader.line, lineEnd, EndsBeforeMarker) + 1;
-    for (size_t i = 0; reader.watch && i < kPSWatchWords; i++) {
-        if (!reader.nextWord[i] || reader.nextWord[i] < reader.line)
-            reader.nextWord[i] = FindWord(reader.line, reader.end, reader.watch->words[i]);
-        if (reader.nextWord[i] < candidate) {
-            const char *const before = FindLastLineEnd(reader.line, reader.nextWord[i]);
+    if (!canBeMarker(*candidate))
+        candidate = FindPosition(reader.line, lineEnd, 1, endsBeforeMarker) + 1;
+    if (reader.watch) {
+        if (!reader.nextWord || reader.nextWord < reader.line)
+            reader.nextWord = FindWord(reader.line, reader.end, *reader.watch);
+        if (reader.nextWord < candidate) {
+            const char *const before = FindLastLineEnd(reader.line, reader.nextWord);
             candidate = before ? before + 1 : reader.line;
         }
     }
@@ -135,10 +135,8 @@ static const char *FindCandidate(PSLineReader &reader, const char *lineEnd)
 
 static bool IsWatched(const PSLineReader &reader)
 {
-    if (!reader.watch)
-        return false;
-    return CurrentPSLine(reader).starts_with(reader.watch->prefix) ||
-           std::ranges::any_of(reader.nextWord, [&reader](const char *word) { return word < reader.lineEnd; });
+    return reader.watch &&
+           (reader.nextWord < reader.lineEnd || CurrentPSLine(reader).starts_with(reader.watch->prefix));
 }
 
 static void WriteUpTo(PSLineReader &reader, const char *position)
@@ -181,7 +179,7 @@ static bool Refill(PSLineReader &reader)
     }
     reader.end = reader.block + unfinished + count;
     reader.last = reader.end[-1];
-    std::ranges::fill(reader.nextWord, nullptr);
+    reader.nextWord = nullptr;
     return true;
 }
 
@@ -208,7 +206,7 @@ bool NextPSLine(PSLineReader &reader)
             continue;
         }
         reader.line = candidate;
-        reader.lineEnd = FindPosition(candidate, lineEnd, IsLineEnd);
+        reader.lineEnd = FindPosition(candidate, lineEnd, 0, isLineEnd);
         reader.marker = FindMarker(CurrentPSLine(reader));
         if (reader.marker || IsWatched(reader))
             return true;

@@ -30,12 +30,13 @@ struct PSMarker {
     uint32_t rules;
 };
 
-constexpr size_t kPSWatchWords = 2;
+// Length of a watched word.
+constexpr size_t kPSWordLength = 4;
 
 // Lines that are of interest beside the markers: those that begin with the prefix or hold one of the words.
 struct PSWatch {
     std::string_view prefix;
-    std::string_view words[kPSWatchWords];
+    std::string_view words[2];
 };
 
 // The document's way from a descriptor to a stream. Everything before `written` is out; the current line begins at
@@ -50,10 +51,10 @@ struct PSLineReader {
     const char *written;
     const char *line;
     const char *lineEnd;
-    char *end;                           // of the bytes read
-    const char *nextWord[kPSWatchWords]; // the first at or after `line`, or `end`; null when not looked for
-    const PSMarker *marker;              // the current line's, or null
-    char last;                           // last byte of the input, 0 when it is empty
+    char *end;              // of the bytes read
+    const char *nextWord;   // the first at or after `line`, or `end`; null when not looked for
+    const PSMarker *marker; // the current line's, or null
+    char last;              // last byte of the input, 0 when it is empty
 };
 
 void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
