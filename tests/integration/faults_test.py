@@ -1,0 +1,368 @@
+"""The filter when what is around it fails: broken and slow pipes, signals, full disks, junk instead of files.
+
+usage: faults_test.py FILTER FILTER-THAT-KEEPS-A-COPY [unittest arguments]
+
+Wherever standard output can be written, a job has a complete header and trailer. Times and sizes are bounds, not
+measurements: they tell an end from a hang and a buffer from the whole job.
+"""
+
+import array
+import fcntl
+import os
+import pathlib
+import resource
+import signal
+import subprocess
+import sys
+import tempfile
+import termios
+import threading
+import time
+import unittest
+
+FILTER, COPYING_FILTER = map(os.path.abspath, sys.argv[1:3])
+
+BOUND = 120  # seconds that a job may take
+MEMORY = 1 << 20  # KiB that a job may take, a sanitizer's share included
+PIPE = 64 * 1024
+
+UEL = b"\x1b%-12345X"
+ENTER = b"@PJL ENTER LANGUAGE=POSTSCRIPT\n"
+TRAILER = UEL + b"@PJL EOJ\n"
+PPD_HEAD = ('*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
+            '*LanguageEncoding: ISOLatin1\n')
+TICKET = "com.orvane.dlg.printsettings."
+PAGE_ENDS = (b"ep\n", b"endp\n", b"showpage\n")
+
+
+def pages(count, lines=40):
+    """A document whose pages end in all three ways, and which goes on behind the last page."""
+    page = b"0 0 moveto 612 792 lineto stroke\n" * lines
+    return (b"%!PS\n" + b"".join(b"bp\n" + page + PAGE_ENDS[n % 3] for n in range(count)) + b"%%Trailer\n" + page)
+
+
+def page_end_lines(document):
+    """Where each page end line begins and ends."""
+    position = 0
+    for line in document.splitlines(keepends=True):
+        if line in PAGE_ENDS:
+            yield position, position + len(line)
+        position += len(line)
+
+
+class Faults(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="ovfaults.")
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+        self.temporary = self.folder / "tmp"
+        self.temporary.mkdir()
+        self.ppds = {False: self.write("plain.ppd", PPD_HEAD),
+                     True: self.write("spooled.ppd", PPD_HEAD + '*OVPSDecompMode: "1"\n')}
+
+    def write(self, name, content):
+        path = self.folder / name
+        path.write_bytes(content if isinstance(content, bytes) else content.encode())
+        return path
+
+    def start(self, *, file=None, options="", spooled=False, program=FILTER, copies="1", environment=(), **popen):
+        """Starts a job; without a file its document comes through a pipe."""
+        variables = {"PATH": "/usr/bin:/bin", "LANG": "C", "TMPDIR": str(self.temporary),
+                     "PPD": str(self.ppds[spooled]), "UBSAN_OPTIONS": "print_stacktrace=1",
+                     **{name: value for name, value in os.environ.items() if name in ("ASAN_OPTIONS", "TZ")},
+                     **dict(environment)}
+        arguments = [program, "1", "taro", "Report", copies, options] + ([str(file)] if file else [])
+        self.messages = tempfile.TemporaryFile()
+        self.addCleanup(self.messages.close)
+        popen = {"stdin": subprocess.DEVNULL if file else subprocess.PIPE, "stdout": subprocess.PIPE, **popen}
+        process = subprocess.Popen(arguments, env=variables, stderr=self.messages, bufsize=0, **popen)
+        watchdog = threading.Timer(BOUND, process.kill)
+        watchdog.start()
+        self.addCleanup(watchdog.cancel)
+        for stream in filter(None, (process.stdin, process.stdout)):
+            self.addCleanup(stream.close)
+        return process
+
+    def end(self, process):
+        """Waits for the end of a job and returns its exit status."""
+        status = process.wait()
+        self.messages.seek(0)
+        text = self.messages.read()
+        for finding in (b"Sanitizer", b"runtime error"):
+            self.assertNotIn(finding, text, text.decode(errors="replace"))
+        self.assertGreaterEqual(status, 0, "ended by a signal, or took too long")
+        return status
+
+    def run_job(self, document=b"", **settings):
+        """Runs a whole job, its document from a file; returns its output."""
+        process = self.start(file=self.write("document.ps", document), **settings)
+        output = process.stdout.read()
+        self.assertEqual(self.end(process), 0)
+        return output
+
+    def assert_job(self, output, document):
+        """The output is a whole job with this document; None: one that never came to it."""
+        self.assertTrue(output.startswith(UEL + b"@PJL "), output[:200])
+        self.assertIn(b"@PJL JOB MODE=PRINTER\r\n", output)
+        self.assertTrue(output.endswith(TRAILER), output[-200:])
+        _, enter, rest = output.partition(ENTER)
+        if document is None:
+            self.assertEqual(enter, b"")
+        else:
+            self.assertTrue(rest.removesuffix(TRAILER) == document, f"another document, ending {rest[-200:]}")
+
+    def spool_files(self):
+        return list(self.temporary.iterdir())
+
+    def settle(self, process):
+        """Waits until the filter has read all that it was sent, handles signals, and waits for more."""
+        waiting = array.array("i", [1])
+        end = time.monotonic() + BOUND
+        while time.monotonic() < end:
+            state = dict(line.split(":\t", 1) for line in
+                         pathlib.Path(f"/proc/{process.pid}/status").read_text().splitlines() if ":\t" in line)
+            handled = int(state["SigCgt"], 16) >> signal.SIGTERM - 1 & 1 and int(state["ShdPnd"], 16) == 0
+            if process.stdin:
+                fcntl.ioctl(process.stdin, termios.FIONREAD, waiting)
+            else:
+                waiting[0] = 0
+            if handled and waiting[0] == 0 and state["State"].startswith("S"):
+                return
+            time.sleep(0.005)
+        self.fail("the filter doesn't come to rest")
+
+    def test_reader_goes_away(self):
+        document = self.write("document.ps", pages(2500))
+        for spooled in (False, True):
+            whole = self.run_job(document.read_bytes(), spooled=spooled)
+            header = whole.index(ENTER) + len(ENTER)
+            for offset in (0, 1, header - 1, header, header + 1, 4096, PIPE - 1, PIPE, PIPE + 1, len(whole) // 2,
+                           len(whole) - 3 * PIPE):
+                with self.subTest(spooled=spooled, offset=offset):
+                    process = self.start(file=document, spooled=spooled)
+                    received = b""
+                    while len(received) < offset:
+                        received += process.stdout.read(offset - len(received))
+                    process.stdout.close()
+                    self.assertEqual(self.end(process), 1)
+                    self.assertTrue(whole.startswith(received))
+                    self.assertEqual(self.spool_files(), [])
+
+    def test_slow_pipes_and_signals(self):
+        """SIGPIPE only leaves its mark in the exit status, SIGTERM waits for a page end: neither costs a byte."""
+        document = b"0 0 moveto\n" * 20000
+        for spooled in (False, True):
+            for number, status in ((None, 0), (signal.SIGTERM, 0), (signal.SIGPIPE, 1)):
+                with self.subTest(spooled=spooled, signal=number):
+                    process = self.start(spooled=spooled)
+                    fcntl.fcntl(process.stdin, fcntl.F_SETPIPE_SZ, 4096)
+                    fcntl.fcntl(process.stdout, fcntl.F_SETPIPE_SZ, 4096)
+                    self.settle(process)
+
+                    def send():
+                        for at in range(0, len(document), 1777):
+                            process.stdin.write(document[at:at + 1777])
+                        process.stdin.close()
+                    sender = threading.Thread(target=send)
+                    sender.start()
+                    output = b""
+                    while piece := process.stdout.read(777):
+                        output += piece
+                        if number and len(output) % 7 == 0:
+                            process.send_signal(number)
+                    sender.join()
+                    self.assertEqual(self.end(process), status)
+                    self.assert_job(output, document + b"\x04")
+
+    def cancel_at(self, document, position, spooled):
+        process = self.start(spooled=spooled)
+        output = []
+        reader = threading.Thread(target=lambda: output.append(process.stdout.read()))
+        reader.start()
+        process.stdin.write(document[:position])
+        self.settle(process)
+        process.send_signal(signal.SIGTERM)
+        self.settle(process)
+        try:
+            process.stdin.write(document[position:])
+        except BrokenPipeError:
+            pass  # it has seen enough
+        process.stdin.close()
+        reader.join()
+        self.assertEqual(self.end(process), 0)
+        return output[0]
+
+    def test_cancelled_at_page_edges(self):
+        document = pages(90)
+        ends = list(page_end_lines(document))
+        edge = next(end for end in ends if end[1] > PIPE)
+        positions = [0, 1, ends[0][0], ends[0][0] + 1, ends[0][1] - 1, ends[0][1], ends[1][0], ends[1][1] - 1, ends[2][1],
+                     edge[0], edge[1] - 1, PIPE - 1, PIPE, PIPE + 1, ends[-1][1] - 1, ends[-1][1], len(document)]
+        for position in positions:
+            # A page ends with its line's end; the first to come after the signal is the last.
+            begin = next((begin for begin, end in ends if end > position), None)
+            with self.subTest(position=position, spooled=False):
+                output = self.cancel_at(document, position, False)
+                self.assert_job(output, document + b"\x04" if begin is None else document[:begin])
+            with self.subTest(position=position, spooled=True):
+                output = self.cancel_at(document, position, True)
+                # Cancelled on its way in, the job leaves its spool file; on its way out, it ends behind a page.
+                self.assert_job(output, document[:ends[0][1]] if begin is None else None)
+                left = self.spool_files()
+                self.assertEqual([file.read_bytes() for file in left], [] if begin is None else [document[:begin]])
+                for file in left:
+                    file.unlink()
+
+    def test_cancelled_while_the_printer_waits(self):
+        document = pages(600)
+        path = self.write("document.ps", document)
+        for spooled in (False, True):
+            for offset in (1, 3000, PIPE, 5 * PIPE):
+                with self.subTest(spooled=spooled, offset=offset):
+                    process = self.start(file=path, spooled=spooled)
+                    output = b""
+                    while len(output) < offset:
+                        output += process.stdout.read(offset - len(output))
+                    self.settle(process)
+                    process.send_signal(signal.SIGTERM)
+                    self.settle(process)
+                    output += process.stdout.read()
+                    self.assertEqual(self.end(process), 0)
+                    sent = output.partition(ENTER)[2].removesuffix(TRAILER)
+                    self.assertIn(len(sent), [end[spooled] for end in page_end_lines(document)])
+                    self.assert_job(output, document[:len(sent)])
+                    self.assertLess(len(sent), len(document))
+                    self.assertEqual(self.spool_files(), [])
+
+    def limit_files(self, size):
+        def limit():
+            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
+        return limit
+
+    def test_disk_full_under_the_spool_file(self):
+        document = pages(200)
+        for size in (0, 1, 4096, len(document) - 1):
+            with self.subTest(size=size):
+                output = self.run_job(document, spooled=True, preexec_fn=self.limit_files(size))
+                self.assert_job(output, None)
+                self.assertEqual(self.spool_files(), [])
+
+    def test_disk_full_under_the_job_copy(self):
+        document = pages(200)
+        for size in (0, 1, 100, 4096, len(document)):
+            with self.subTest(size=size):
+                output = self.run_job(document, program=COPYING_FILTER, preexec_fn=self.limit_files(size))
+                self.assert_job(output, document + b"\x04")
+                for copy in self.spool_files():
+                    self.assertTrue(output.startswith(copy.read_bytes()))
+                    copy.unlink()
+
+    def test_disk_full_under_standard_output(self):
+        with open("/dev/full", "wb") as full:
+            process = self.start(file=self.write("document.ps", pages(200)), stdout=full)
+            self.assertEqual(self.end(process), 0)
+
+    def test_no_temporary_directory(self):
+        for path in (self.folder / "missing", self.write("file", b""), "", f"{self.folder}/missing" + "/x" * 2500):
+            with self.subTest(path=str(path)[-20:]):
+                settings = {"environment": {"TMPDIR": str(path)}, "cwd": self.folder}
+                self.assert_job(self.run_job(b"ep\n", program=COPYING_FILTER, **settings), b"ep\n\x04")
+                if path:
+                    self.assert_job(self.run_job(b"ep\n", spooled=True, **settings), None)
+
+    def test_ppds_that_are_none(self):
+        attributes = "".join(f'*OVFiller{number:06}: "{"value " * 40}"\n' for number in range(190_000))
+        contents = {"missing.ppd": None, "empty.ppd": b"", "junk.ppd": os.urandom(100_000),
+                    "compressed.ppd": b"\x1f\x8b\x08\x00" + os.urandom(10_000), "line.ppd": b"*" + b"x" * 50_000_000,
+                    "large.ppd": PPD_HEAD + attributes}
+        paths = [self.folder, "", *(self.folder / name for name in contents)]
+        for name, content in contents.items():
+            if content is not None:
+                self.write(name, content)
+        for path in paths:
+            with self.subTest(ppd=path):
+                self.assert_job(self.run_job(b"ep\n", environment={"PPD": str(path)}), b"ep\n\x04")
+
+    def test_closed_descriptors(self):
+        for closed in ((0,), (0, 2), (1,), (0, 1, 2)):
+            with self.subTest(closed=closed):
+                process = self.start(program=COPYING_FILTER, preexec_fn=lambda: [os.close(fd) for fd in closed])
+                process.stdin.close()
+                output = process.stdout.read()
+                self.assertEqual(self.end(process), 0)
+                copy, = self.spool_files()
+                self.assert_job(copy.read_bytes(), b"\x04")
+                self.assertEqual(output, b"" if 1 in closed else copy.read_bytes())
+                copy.unlink()
+
+    def test_long_options(self):
+        longest = os.sysconf("SC_PAGESIZE") * 32 - 1
+        items = [f"{TICKET}ZPIFCommandTicket_{n}=0,1,2,3 {TICKET}ZPIFCoverValueTicket_{n}=0,1,0,2" for n in range(2000)]
+        for options in ("x" * longest, "a=" + "y" * longest, "'" * longest, "{" * longest, "/" * longest,
+                        " ".join(f"o{n}={n}" for n in range(longest // 5)),
+                        f"{TICKET}ZPIFCoverCountTicket=2000 " + " ".join(items),
+                        TICKET + "JBAUserPasswordTextEditTicket=" + "A" * longest,
+                        TICKET + "WMARKTextTicket=" + "/049" * (longest // 4)):
+            with self.subTest(options=options[:80]):
+                self.assert_job(self.run_job(b"ep\n", options=options[:longest]), b"ep\n\x04")
+
+    def test_counts_without_measure(self):
+        for count in ("2000000000", "2147483647", "-2147483648", "99999999999999999999"):
+            with self.subTest(count=count):
+                # Copies go to the page log only.
+                output = self.run_job(b"ep\n", copies=count, options=" ".join(f"{name}={count}" for name in (
+                    TICKET + "ZPIFCoverCountTicket", TICKET + "ZPIFInsertionCountTicket",
+                    TICKET + "ZPIFExceptionCountTicket", TICKET + "PrintTypeTicketKey",
+                    TICKET + "PrintTypeProductTypeTicketKey", TICKET + "WMARKAngleTicket", "number-up",
+                    "com.apple.print.PrintSettings.PMLayoutRows..n.", "com.apple.print.PrintSettings.PMCopies..n.",
+                    "com.apple.print.PrintSettings.PMLayoutColumns..n.", "orientation-requested", "copies")))
+                self.assert_job(output, b"ep\n\x04")
+
+    def plant(self, put):
+        """Puts something in the place of every copy of the next minute."""
+        now = time.time()
+        for seconds in range(-1, 60):
+            name = time.strftime("wq%Y%m%d%H%M%S.job", time.localtime(now + seconds))
+            put(self.temporary / name)
+
+    def test_planted_in_place_of_the_job_copy(self):
+        victim = self.write("victim", b"precious")
+        readers = []
+
+        def fifo_with_reader(path):
+            os.mkfifo(path)
+            readers.append(os.open(path, os.O_RDONLY | os.O_NONBLOCK))
+        for put in (lambda path: path.symlink_to(victim), lambda path: path.symlink_to(self.folder / "new"),
+                    lambda path: path.hardlink_to(victim), os.mkfifo, fifo_with_reader, os.mkdir):
+            with self.subTest():
+                self.plant(put)
+                before = victim.stat().st_mode
+                self.assert_job(self.run_job(b"ep\n", program=COPYING_FILTER), b"ep\n\x04")
+                self.assertEqual(victim.read_bytes(), b"precious")
+                self.assertEqual(victim.stat().st_mode, before)
+                self.assertFalse((self.folder / "new").exists())
+                for reader in readers:
+                    os.set_blocking(reader, False)
+                    self.assertEqual(os.read(reader, 1), b"")
+                    os.close(reader)
+                readers.clear()
+                for path in self.spool_files():
+                    path.rmdir() if path.is_dir() and not path.is_symlink() else path.unlink()
+
+    def test_no_core_file(self):
+        process = self.start()
+        self.settle(process)
+        limits = pathlib.Path(f"/proc/{process.pid}/limits").read_text()
+        self.assertRegex(limits, r"Max core file size +0 +0 ")
+        process.stdin.close()
+        self.end(process)
+
+
+def tearDownModule():
+    peak = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
+    assert peak < MEMORY, f"a job took {peak} KiB"
+
+
+if __name__ == "__main__":
+    unittest.main(argv=[sys.argv[0], *sys.argv[3:]])
