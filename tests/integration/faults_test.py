@@ -128,6 +128,7 @@ class Faults(unittest.TestCase):
                 waiting[0] = 0
             if handled and waiting[0] == 0 and state["State"].startswith("S"):
                 return
+            self.assertFalse(state["State"].startswith("Z"), "the filter has ended")
             time.sleep(0.005)
         self.fail("the filter doesn't come to rest")
 
@@ -175,10 +176,10 @@ class Faults(unittest.TestCase):
                     self.assert_job(output, document + b"\x04")
 
     def cancel_at(self, document, position, spooled):
-        process = self.start(spooled=spooled)
-        output = []
-        reader = threading.Thread(target=lambda: output.append(process.stdout.read()))
-        reader.start()
+        # Into a file: what the filter waits for is then only its input.
+        output = self.folder / "output"
+        with output.open("wb") as file:
+            process = self.start(spooled=spooled, stdout=file)
         process.stdin.write(document[:position])
         self.settle(process)
         process.send_signal(signal.SIGTERM)
@@ -188,9 +189,8 @@ class Faults(unittest.TestCase):
         except BrokenPipeError:
             pass  # it has seen enough
         process.stdin.close()
-        reader.join()
         self.assertEqual(self.end(process), 0)
-        return output[0]
+        return output.read_bytes()
 
     def test_cancelled_at_page_edges(self):
         document = pages(90)
