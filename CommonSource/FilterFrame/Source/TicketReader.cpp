@@ -83,14 +83,10 @@ int32_t CheckTicketKey(const char *key, int32_t optionCount, cups_option_t *opti
     return 1;
 }
 
-// The text of a ticket; null, with the destination all zero, when it is absent.
-static const char *TextOrZero(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
-                              int32_t size)
+static void Zero(void *destination, int32_t size)
 {
-    const char *value = cupsGetOption(key, optionCount, options);
-    if (!value && size > 0)
+    if (size > 0)
         memset(destination, 0, static_cast<size_t>(size));
-    return value;
 }
 
 static int32_t DecodeAndConvert(const char *value, void *destination, int32_t size, TextConverter convert)
@@ -101,9 +97,26 @@ static int32_t DecodeAndConvert(const char *value, void *destination, int32_t si
     return convert(text, static_cast<char *>(destination), size);
 }
 
+// What the text getters share: present is what they return, length that of the converted text, 0 when absent.
+struct ReadText {
+    int32_t present;
+    int32_t length;
+};
+
+static ReadText GetText(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size,
+                        TextConverter convert)
+{
+    Zero(destination, size);
+    const char *value = cupsGetOption(key, optionCount, options);
+    if (!value)
+        return {0, 0};
+    return {1, DecodeAndConvert(value, destination, size, convert)};
+}
+
 int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size)
 {
-    const char *value = TextOrZero(key, optionCount, options, destination, size);
+    Zero(destination, size);
+    const char *value = cupsGetOption(key, optionCount, options);
     if (value)
         ConvertUTF8ToEncoding(value, static_cast<char *>(destination), size);
     return value != nullptr;
@@ -112,33 +125,25 @@ int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *opt
 int32_t GetTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
                                           void *destination, int32_t size)
 {
-    const char *value = TextOrZero(key, optionCount, options, destination, size);
-    if (value)
-        DecodeAndConvert(value, destination, size, ConvertUTF8ToEncoding);
-    return value != nullptr;
+    return GetText(key, optionCount, options, destination, size, ConvertUTF8ToEncoding).present;
 }
 
 int32_t GetTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
                                                  void *destination, int32_t size)
 {
-    const char *value = TextOrZero(key, optionCount, options, destination, size);
-    if (value)
-        DecodeAndConvert(value, destination, size, ConvertUTF8ToEncodingForUTF8);
-    return value != nullptr;
+    return GetText(key, optionCount, options, destination, size, ConvertUTF8ToEncodingForUTF8).present;
 }
 
 int32_t GetLengthOfTicketStringConvertedToPrtLang(const char *key, int32_t optionCount, cups_option_t *options,
                                                   void *destination, int32_t size)
 {
-    const char *value = TextOrZero(key, optionCount, options, destination, size);
-    return value ? DecodeAndConvert(value, destination, size, ConvertUTF8ToEncoding) : 0;
+    return GetText(key, optionCount, options, destination, size, ConvertUTF8ToEncoding).length;
 }
 
 int32_t GetLengthOfTicketStringConvertedToPrtLangForUTF8(const char *key, int32_t optionCount, cups_option_t *options,
                                                          void *destination, int32_t size)
 {
-    const char *value = TextOrZero(key, optionCount, options, destination, size);
-    return value ? DecodeAndConvert(value, destination, size, ConvertUTF8ToEncodingForUTF8) : 0;
+    return GetText(key, optionCount, options, destination, size, ConvertUTF8ToEncodingForUTF8).length;
 }
 
 static int32_t ConvertToQueueEncoding(const char *source, char *destination, int32_t size)
@@ -149,10 +154,7 @@ static int32_t ConvertToQueueEncoding(const char *source, char *destination, int
 int32_t GetTicketStringConvertedToPPDEncodingString(const char *key, int32_t optionCount, cups_option_t *options,
                                                     void *destination, int32_t size)
 {
-    const char *value = TextOrZero(key, optionCount, options, destination, size);
-    if (value)
-        DecodeAndConvert(value, destination, size, ConvertToQueueEncoding);
-    return value != nullptr;
+    return GetText(key, optionCount, options, destination, size, ConvertToQueueEncoding).present;
 }
 
 static int32_t NumberUp(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size,
