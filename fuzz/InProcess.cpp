@@ -1,0 +1,123 @@
+#include "InProcess.h"
+
+#include "FilterFrame.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/mman.h>
+#include <unistd.h>
+
+static const char kUEL[] = "\x1B%-12345X@PJL ";
+static const char kEnter[] = "@PJL ENTER LANGUAGE=POSTSCRIPT\n";
+static const char kTrailer[] = "\x1B%-12345X@PJL EOJ\n";
+
+// libcups leaks a few bytes for some PPDs that repeat a keyword; a filter reads one PPD in its life.
+extern "C" const char *__lsan_default_suppressions();
+const char *__lsan_default_suppressions()
+{
+    return "leak:_ppdOpen\n";
+}
+
+void Require(bool holds)
+{
+    if (!holds)
+        abort();
+}
+
+std::string TakeText(std::string_view &input)
+{
+    const size_t length = std::min(input.find('\0'), input.size());
+    const std::string text(input.substr(0, length));
+    input.remove_prefix(std::min(length + 1, input.size()));
+    return text;
+}
+
+std::string PPDOfKind(unsigned kind, bool spooled)
+{
+    std::string text = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
+                       "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n";
+    if (kind % 2 == 0)
+        text += "*OVPrinterLanguageEncoding: \"UTF-8\"\n";
+    if (kind & 2)
+        text += "*ColorDevice: True\n*OpenUI *OVColorMode/Colour: PickOne\n*DefaultOVColorMode: Color\n"
+                "*OVColorMode Color/Colour: \"\"\n*OVColorMode Black/Black: \"\"\n*CloseUI: *OVColorMode\n";
+    else
+        text += "*ColorDevice: False\n";
+    if (kind & 4)
+        text += "*CommentOn: \"True\"\n*PCFileName: \"TEST.PPD\"\n*QBXPrintTypeSettings: \"Default04\"\n";
+    if (kind & 8)
+        text += "*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: A4\n*PageSize A4/A4: \"\"\n*PageSize A3/A3: \"\"\n"
+                "*CloseUI: *PageSize\n*DefaultPaperDimension: A4\n*PaperDimension A4/A4: \"595 842\"\n"
+                "*PaperDimension A3/A3: \"842 1191\"\n";
+    if (spooled)
+        text += "*OVPSDecompMode: \"1\"\n";
+    return text;
+}
+
+// An anonymous file that is filled anew for every job.
+static int FileOf(const char *name, std::string_view content, int &file)
+{
+    if (file < 0)
+        file = memfd_create(name, 0);
+    Require(file >= 0 && ftruncate(file, 0) == 0 && lseek(file, 0, SEEK_SET) == 0);
+    Require(write(file, content.data(), content.size()) == static_cast<ssize_t>(content.size()));
+    Require(lseek(file, 0, SEEK_SET) == 0);
+    return file;
+}
+
+static std::string PathOf(int file)
+{
+    return "/proc/self/fd/" + std::to_string(file);
+}
+
+static void TakeStandardOutput()
+{
+    const int file = memfd_create("output", 0);
+    Require(file >= 0 && dup2(file, STDOUT_FILENO) == STDOUT_FILENO);
+    close(file);
+}
+
+static std::string ReadOutput()
+{
+    const off_t size = lseek(STDOUT_FILENO, 0, SEEK_CUR);
+    std::string output(static_cast<size_t>(size), '\0');
+    Require(pread(STDOUT_FILENO, output.data(), output.size(), 0) == size);
+    Require(ftruncate(STDOUT_FILENO, 0) == 0 && lseek(STDOUT_FILENO, 0, SEEK_SET) == 0);
+    return output;
+}
+
+std::string RunInProcess(const InProcessJob &job)
+{
+    static int ppd = -1, document = -1;
+    static const bool taken = (TakeStandardOutput(), true);
+    Require(taken);
+    FileOf("ppd", job.ppd, ppd);
+    FileOf("document", job.document, document);
+    setenv("PPD", PathOf(ppd).c_str(), 1);
+    const std::string path = PathOf(document);
+    const char *const argv[] = {
+        "pstoorvane",        "1",          job.user.c_str(), job.title.c_str(), job.copies.c_str(),
+        job.options.c_str(), path.c_str(), nullptr};
+    if (!job.fromFile)
+        Require(dup2(document, STDIN_FILENO) == STDIN_FILENO);
+    Require(FilterMain(job.fromFile ? 7 : 6, argv) == 0);
+
+    // The crypto's messages may come first.
+    std::string output = ReadOutput();
+    const size_t begin = output.find(kUEL);
+    Require(begin == 0 || (begin != std::string::npos && output.find("rror") < begin) ||
+            (begin != std::string::npos && output.find("ERROR") < begin));
+    Require(output.find("@PJL JOB MODE=PRINTER\r\n") != std::string::npos);
+    Require(output.ends_with(kTrailer));
+    return output;
+}
+
+std::string_view DocumentOf(std::string_view output)
+{
+    const size_t enter = output.find(kEnter);
+    Require(enter != output.npos);
+    output.remove_prefix(enter + sizeof kEnter - 1);
+    output.remove_suffix(sizeof kTrailer - 1);
+    return output;
+}
