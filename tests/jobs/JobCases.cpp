@@ -2,6 +2,7 @@
 
 #include "BlobReader.h"
 #include "JobRunner.h"
+#include "Rows.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -39,23 +40,6 @@ const char requiredPPDHead[] = R"(*PPD-Adobe: "4.3"
 *LanguageVersion: English
 *LanguageEncoding: ISOLatin1
 )";
-
-std::string Unescape(const std::string &text)
-{
-    static const std::map<char, char> codes = {{'e', '\x1B'}, {'r', '\r'}, {'n', '\n'}, {'t', '\t'}, {'\\', '\\'}};
-    std::string result;
-    for (size_t i = 0; i < text.size(); i++) {
-        if (text[i] != '\\') {
-            result += text[i];
-        } else if (text.at(++i) == 'x') {
-            result += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
-            i += 2;
-        } else {
-            result += codes.at(text[i]);
-        }
-    }
-    return result;
-}
 
 // The text behind "| ", with a line feed unless it ends with a single backslash.
 std::string ContentLine(const std::string &line)
@@ -163,20 +147,6 @@ void NamePasswords(const std::string &expected, std::string &output)
         output.replace(begin, length, named);
         from = begin + named.size();
     }
-}
-
-// Control bytes made visible, so that a failure shows which line end differs.
-std::string Visible(const std::string &bytes)
-{
-    std::string text;
-    for (const char byte : bytes) {
-        const auto c = static_cast<unsigned char>(byte);
-        char code[5] = {byte, '\0'};
-        if (c != '\n' && (c < 0x20 || c >= 0x7F))
-            snprintf(code, sizeof code, "\\x%02X", c);
-        text += code;
-    }
-    return text;
 }
 
 // The first line in which the output differs, and the whole output.

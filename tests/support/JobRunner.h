@@ -6,9 +6,9 @@
 
 struct Job {
     std::vector<std::string> arguments; // after the filter's name
-    std::string ppd;                    // path; empty: PPD is not set
-    std::vector<std::string> environment;
-    std::string input;
+    std::string ppd = {};               // path; empty: PPD is not set
+    std::vector<std::string> environment = {};
+    std::string input = {};
     std::string filter = OV_FILTER;
 };
 

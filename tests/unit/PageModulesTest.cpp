@@ -1,40 +1,17 @@
 // What jobs can't reach of special pages and perfect binding: arguments that their writers never pass.
-
 #include "PBind.h"
+#include "Rows.h"
 #include "SpecialPage.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdio>
 #include <set>
-#include <string>
-
-TEST(SpecialPage, OneValueRefusesNullPointers)
-{
-    char field[kSpecialPageFieldSize] = "";
-    EXPECT_EQ(getOneValue(nullptr, field), -1);
-    EXPECT_EQ(getOneValue("a,b", nullptr), -1);
-    EXPECT_STREQ(field, "");
-}
 
 TEST(SpecialPage, OneValueAnswersTheNextOffset)
 {
-    const struct {
-        std::string source, field;
-        int32_t next;
-    } cases[] = {
-        {"", "", 0},
-        {",", "", 1},
-        {"ab,c", "ab", 3},
-        {"ab", "ab", 0},
-        {std::string(49, 'x') + ",y", std::string(49, 'x'), 50},
-        {std::string(80, 'x') + ",y", std::string(49, 'x'), 81},
-    };
-    for (const auto &each : cases) {
-        char field[kSpecialPageFieldSize] = "";
-        EXPECT_EQ(getOneValue(each.source.c_str(), field), each.next) << each.source;
-        EXPECT_EQ(field, each.field);
-    }
+    CheckRows("special-page-fields", [](const Cells &given) -> Cells {
+        std::vector<char> field(kSpecialPageFieldSize);
+        const int32_t next = getOneValue(given[0].c_str(), field.data());
+        return {TextOf(field), std::to_string(next)};
+    });
 }
 
 TEST(SpecialPage, MapsOnlyWholePairs)
@@ -62,19 +39,16 @@ TEST(PBind, EveryValueIsMappedOnce)
 
 TEST(PBind, MappedValueIsCutToItsBuffer)
 {
-    char value[5];
-    convertPBindPPDValue("Stationary", value, sizeof value);
-    EXPECT_STREQ(value, "NORM");
-    convertPBindPPDValue("stationary", value, sizeof value);
-    EXPECT_STREQ(value, "");
+    auto value = Buffer(5);
+    convertPBindPPDValue("Stationary", value.data(), 5);
+    EXPECT_EQ(TextOf(value), "NORM");
 }
 
 TEST(PBind, NumberIsMultipliedBeforeItsSign)
 {
-    testing::internal::CaptureStdout();
-    OutputZPJLCommandforPBindDigital("-3", 4, "PBAX", "RIGHT", 1);
-    OutputZPJLCommandforPBindDigital("3", 4, "PBAY", "RIGHT", 2);
-    OutputZPJLCommandforPBindDigital("", 4, "PBAV", "RIGHT", 1);
-    fflush(stdout);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "@PJL SET JOBATTR=\"@PBAX=12\"\n@PJL SET JOBATTR=\"@PBAY=12\"\n");
+    EXPECT_EQ(Printed([] {
+                  OutputZPJLCommandforPBindDigital("-3", 4, "PBAX", "RIGHT", 1);
+                  OutputZPJLCommandforPBindDigital("", 4, "PBAV", "RIGHT", 1);
+              }),
+              "@PJL SET JOBATTR=\"@PBAX=12\"\n");
 }
