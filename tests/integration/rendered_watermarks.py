@@ -7,6 +7,7 @@ The document brings a font whose glyphs are full rectangles, so that the mark mu
 
 import cmath
 import math
+import os
 import re
 import subprocess
 import sys
@@ -48,7 +49,7 @@ ep
 def filtered(document, tickets):
     options = " ".join(f"com.orvane.dlg.printsettings.WMARK{key}Ticket={value}" for key, value in tickets.items())
     job = subprocess.run([FILTER, "1", "taro", "Report", "1", options], input=document.encode(), capture_output=True,
-                         check=True).stdout
+                         check=True, env={"PATH": os.defpath, "TMPDIR": tempfile.gettempdir(), "PPD": ""}).stdout
     return job.split(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n", 1)[1].split(b"\x04", 1)[0]
 
 
