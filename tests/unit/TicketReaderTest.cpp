@@ -120,3 +120,18 @@ TEST(TicketReader, TablesShareTheJobsOptions)
     argv[5] = nullptr;
     EXPECT_EQ(OptionsOfJob(argv).count, 0);
 }
+
+// More than the system lets one argument be, and more options than a job has.
+TEST(TicketReader, LongOptions)
+{
+    std::string text = "a=" + std::string(4 << 20, '/');
+    for (int i = 0; i < 20000; i++)
+        text += " option" + std::to_string(i) + "=/" + std::to_string(i);
+    const char *const argv[] = {"", "1", "taro", "Report", "1", text.c_str(), nullptr};
+    char value[8], cut[64];
+    const ticketData table[] = {{"option19999", value, sizeof value, GetTicketString},
+                                {"a", cut, sizeof cut, GetTicketString}};
+    GetTicketFromArray(argv, table, 2);
+    EXPECT_STREQ(value, "/19999");
+    EXPECT_EQ(cut, std::string(63, '/'));
+}
