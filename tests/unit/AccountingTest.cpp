@@ -24,7 +24,8 @@ static void ExpectLines(int users, int accounts, int storages)
         return found;
     };
     EXPECT_TRUE(count("JOAU") == users && count("JOEP") == users && count("DAID") == accounts &&
-                count("ACID") == storages && count("ACEP") == storages)
+                count("ACID") == storages && count("ACEP") == storages && lines.find("=\"@PJL") == std::string::npos &&
+                lines.ends_with('\n')) // no line without its value
         << lines;
 }
 

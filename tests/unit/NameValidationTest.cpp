@@ -33,17 +33,6 @@ TEST(NameValidation, WhatNoJobReaches)
     InvalidatePrintTypeDocumentNameForProductType(argv);
     EXPECT_STREQ(PTStdDocumentName, "ABCDEFGHIJKL");
 
-    // Product type 2 clears what lies behind the name, product type 7 leaves it.
-    memset(StdDocumentName, 'a', 25);
-    memset(PTStdDocumentName, 'x', 25);
-    InvalidateStdDocumentNameForProductType(argv);
-    EXPECT_STREQ(PTStdDocumentName, "aaaaaaaaaaaa");
-    argv[5] = "com.orvane.dlg.printsettings.PrintTypeProductTypeTicketKey=7";
-    strcpy(StdDocumentName, "aaaaaaaaaaaaaaaaaaaaaaaa");
-    memset(PTStdDocumentName, 'x', 25);
-    InvalidateStdDocumentNameForProductType(argv);
-    EXPECT_STREQ(PTStdDocumentName, "aaaaaaaaaaaaaaaaaaaaaaaax");
-
     for (const size_t length : {255u, 256u}) {
         memset(StdUserName, 'a', length);
         InvalidateStdUserName();

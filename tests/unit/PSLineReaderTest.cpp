@@ -2,15 +2,12 @@
 #include "PSLineReader.h"
 
 #include "OutputSink.h"
+#include "Rows.h"
 
-#include <gtest/gtest.h>
 #include <random>
 #include <set>
-#include <string>
 #include <thread>
 #include <unistd.h>
-
-using namespace std::string_literals;
 
 struct Reading {
     std::string text; // what was written, with each line of interest between < and >
@@ -74,32 +71,14 @@ static Reading ReadInBlocks(const std::string &document, size_t piece)
 
 static std::string RandomDocument(std::mt19937 &random)
 {
-    static const std::string pieces[] = {"\n",
-                                         "\r",
-                                         "\r\n",
-                                         "ep",
-                                         "ep\n",
-                                         "\nep\n",
-                                         "endp\r",
-                                         " ep\n",
-                                         "e\0p\n"s,
-                                         "\rshowpage\r\n",
-                                         "ep\0\n"s,
-                                         "%%EndProlog\n",
-                                         "xTSCR",
-                                         "%%BeginFeature: *A B\n",
-                                         "TSC",
-                                         "R",
-                                         "TCPR\n",
-                                         "\x04",
-                                         "text of a line\n"};
+    static const std::vector<Row> pieces = Rows("document-pieces");
     static const size_t runs[] = {1, 70, 8063, 8064, 8065, 8066, 8067, 16130, 20000, 65536};
     std::string document;
     for (unsigned long count = random() % 60; count > 0; count--) {
         if (random() % 8 == 0)
             document.append(runs[random() % std::size(runs)], "ax%"[random() % 3]);
         else
-            document += pieces[random() % std::size(pieces)];
+            document += pieces[random() % pieces.size()].given[0];
     }
     return document;
 }

@@ -3,8 +3,6 @@
 #include "Rows.h"
 #include "SpecialPage.h"
 
-#include <set>
-
 TEST(SpecialPage, OneValueAnswersTheNextOffset)
 {
     CheckRows("special-page-fields", [](const Cells &given) -> Cells {
@@ -24,17 +22,6 @@ TEST(SpecialPage, MapsOnlyWholePairs)
     EXPECT_STREQ(value, "");
     EXPECT_EQ(getSpecialPageZPJLValue("b", pairs, 4, value), 0);
     EXPECT_STREQ(value, "2");
-}
-
-TEST(PBind, EveryValueIsMappedOnce)
-{
-    std::set<std::string> seen;
-    const PBindParam *row = PerfectBindParam;
-    for (; *row->ppdValue; row++) {
-        EXPECT_TRUE(seen.insert(row->ppdValue).second) << row->ppdValue;
-        EXPECT_STRNE(row->pjlValue, "") << row->ppdValue;
-    }
-    EXPECT_STREQ(row->pjlValue, "");
 }
 
 TEST(PBind, MappedValueIsCutToItsBuffer)

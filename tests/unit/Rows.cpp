@@ -5,6 +5,29 @@
 #include <map>
 #include <sstream>
 
+// \e \r \n \t \\ \xHH, and \{N TEXT} for N times the text.
+static std::string Unescape(std::string_view text)
+{
+    static const std::map<char, char> codes = {{'e', '\x1B'}, {'r', '\r'}, {'n', '\n'}, {'t', '\t'}, {'\\', '\\'}};
+    std::string result;
+    for (size_t i = 0; i < text.size(); i++) {
+        if (text[i] != '\\') {
+            result += text[i];
+        } else if (text.at(++i) == 'x') {
+            result += static_cast<char>(std::stoi(std::string(text.substr(i + 1, 2)), nullptr, 16));
+            i += 2;
+        } else if (text[i] == '{') {
+            const size_t blank = text.find(' ', i), end = text.find('}', i);
+            for (int count = std::stoi(std::string(text.substr(i + 1, blank))); count > 0; count--)
+                result += text.substr(blank + 1, end - blank - 1);
+            i = end;
+        } else {
+            result += codes.at(text[i]);
+        }
+    }
+    return result;
+}
+
 static Cells CellsOf(const std::string &text)
 {
     Cells cells;
@@ -14,14 +37,6 @@ static Cells CellsOf(const std::string &text)
         cells.push_back(Unescape(cell.substr(begin, cell.find_last_not_of(' ') + 1 - begin)));
     }
     return cells;
-}
-
-static std::string Joined(const Cells &cells)
-{
-    std::string text;
-    for (const std::string &cell : cells)
-        text += (&cell == cells.data() ? "" : " | ") + Visible(cell);
-    return text;
 }
 
 std::vector<Row> Rows(const std::string &table)
@@ -44,47 +59,12 @@ std::vector<Row> Rows(const std::string &table)
 void CheckRows(const std::string &table, Cells (*answer)(const Cells &given))
 {
     for (const Row &row : Rows(table))
-        EXPECT_EQ(Joined(answer(row.given)), Joined(row.expected)) << row.where;
+        EXPECT_EQ(answer(row.given), row.expected) << row.where;
 }
 
 int32_t Number(const std::string &cell)
 {
     return std::stoi(cell);
-}
-
-std::string Unescape(std::string_view text)
-{
-    static const std::map<char, char> codes = {{'e', '\x1B'}, {'r', '\r'}, {'n', '\n'}, {'t', '\t'}, {'\\', '\\'}};
-    std::string result;
-    for (size_t i = 0; i < text.size(); i++) {
-        if (text[i] != '\\') {
-            result += text[i];
-        } else if (text.at(++i) == 'x') {
-            result += static_cast<char>(std::stoi(std::string(text.substr(i + 1, 2)), nullptr, 16));
-            i += 2;
-        } else if (text[i] == '{') {
-            const size_t blank = text.find(' ', i), end = text.find('}', i);
-            for (int count = std::stoi(std::string(text.substr(i + 1, blank))); count > 0; count--)
-                result += text.substr(blank + 1, end - blank - 1);
-            i = end;
-        } else {
-            result += codes.at(text[i]);
-        }
-    }
-    return result;
-}
-
-std::string Visible(std::string_view bytes)
-{
-    std::string text;
-    for (const char byte : bytes) {
-        const auto c = static_cast<unsigned char>(byte);
-        char code[5] = {byte, '\0'};
-        if (c != '\n' && (c < 0x20 || c >= 0x7F))
-            snprintf(code, sizeof code, "\\x%02X", c);
-        text += code;
-    }
-    return text;
 }
 
 std::vector<char> Buffer(int32_t size)

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <string>
-#include <string_view>
 #include <vector>
 
 using Cells = std::vector<std::string>;
@@ -20,12 +19,6 @@ std::vector<Row> Rows(const std::string &table);
 void CheckRows(const std::string &table, Cells (*answer)(const Cells &given));
 
 int32_t Number(const std::string &cell);
-
-// \e \r \n \t \\ \xHH, and \{N TEXT} for N times the text.
-std::string Unescape(std::string_view text);
-
-// Control bytes made visible, so that a failure shows which line end differs.
-std::string Visible(std::string_view bytes);
 
 // A buffer of exactly `size` bytes, so that a sanitizer sees any byte too many; and its text.
 std::vector<char> Buffer(int32_t size);

@@ -75,11 +75,10 @@ TEST(TicketReader, TextOfEachGetter)
             texts.push_back(TextOf(field));
         }
         auto field = Buffer(Number(given[1]));
-        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLang, {given[0]}, field),
-                  static_cast<int>(texts[1].size()));
+        const auto legacy = static_cast<int32_t>(texts[1].size()), utf8 = static_cast<int32_t>(texts[2].size());
+        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLang, {given[0]}, field), legacy);
         EXPECT_EQ(TextOf(field), texts[1]);
-        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLangForUTF8, {given[0]}, field),
-                  static_cast<int>(texts[2].size()));
+        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLangForUTF8, {given[0]}, field), utf8);
         EXPECT_EQ(TextOf(field), texts[2]);
         return texts;
     });

@@ -3,27 +3,20 @@
 
 #include "Rows.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
+#include <netdb.h>
 #include <sstream>
 
-template <typename Socket> static PlatformAddress BytesOf(const Socket &address)
-{
-    const auto *bytes = reinterpret_cast<const unsigned char *>(&address);
-    return PlatformAddress(bytes, bytes + sizeof address);
-}
-
+// The address as the lookup gives it; bytes that are none for any other word.
 static PlatformAddress Address(const std::string &text)
 {
-    sockaddr_in v4 = {};
-    sockaddr_in6 v6 = {};
-    v4.sin_family = AF_INET;
-    v6.sin6_family = AF_INET6;
-    if (inet_pton(AF_INET, text.c_str(), &v4.sin_addr) == 1)
-        return BytesOf(v4);
-    if (inet_pton(AF_INET6, text.c_str(), &v6.sin6_addr) == 1)
-        return BytesOf(v6);
-    return {0xFF}; // no address at all
+    addrinfo hints = {}, *found = nullptr;
+    hints.ai_flags = AI_NUMERICHOST;
+    if (getaddrinfo(text.c_str(), nullptr, &hints, &found) != 0)
+        return {0xFF};
+    const auto *bytes = reinterpret_cast<const unsigned char *>(found->ai_addr);
+    const PlatformAddress address(bytes, bytes + found->ai_addrlen);
+    freeaddrinfo(found);
+    return address;
 }
 
 TEST(HostAddress, ChoosesAmongTheAddresses)

@@ -1,27 +1,17 @@
+// Where a mark begins, on A4.
 #include "Watermark.h"
 
 #include "Rows.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
-
-// A mark of 300 by 80 points on A4.
-static WatermarkOptions SampleMark()
-{
-    WatermarkOptions mark{};
-    mark.orientation = 1;
-    mark.paperWidth = 595;
-    mark.paperHeight = 842;
-    mark.boxWidth = 300;
-    mark.boxHeight = 80;
-    return mark;
-}
 
 TEST(Watermark, OriginOfTheTurnedBox)
 {
     for (const Row &row : Rows("watermark-origins")) {
-        psOptionWatermark = SampleMark();
+        psOptionWatermark = {};
+        psOptionWatermark.paperWidth = 595;
+        psOptionWatermark.paperHeight = 842;
         psOptionWatermark.orientation = Number(row.given[0]);
         psOptionWatermark.angle = Number(row.given[1]);
         psOptionWatermark.boxWidth = std::stof(row.given[2]);
@@ -34,26 +24,4 @@ TEST(Watermark, OriginOfTheTurnedBox)
             EXPECT_NEAR(place[i] - (i == 0 ? 12.5F : -30.25F), expected, near) << row.where;
         }
     }
-}
-
-// No line of a document stands for this point.
-TEST(Watermark, DrawsBetweenTheFiltersOwnSaveAndRestore)
-{
-    psOptionWatermark = SampleMark();
-    strcpy(psOptionWatermark.name, "Draft");
-    strcpy(psOptionWatermark.text, "(DRAFT)");
-    strcpy(psOptionWatermark.font, "Helvetica");
-    psOptionWatermark.fontSize = 72;
-    psOptionWatermark.density = 100;
-    EXPECT_EQ(Printed([] {
-                  for (int32_t event : {25, 26, 29})
-                      WatermarkOutputPSCommandFromFilter(event, 1, stdout);
-              }),
-              "wqwpgsave restore /wqwpgsave save store gsave\n"
-              "0.00 0.00 0.00 setrgbcolor\n"
-              "/Helvetica 72 selectfont\n"
-              "147.50 381.00 moveto\n"
-              "0 rotate\n"
-              "(DRAFT) show\n"
-              "grestore\n");
 }
