@@ -9,37 +9,32 @@
 #include <thread>
 #include <unistd.h>
 
-struct Reading {
-    std::string text; // what was written, with each line of interest between < and >
-    std::string tail; // bytes behind the last line end
-    bool operator==(const Reading &) const = default;
-};
+// A reading: what was written, lines of interest between < and >, then a NUL and the bytes behind the last line end.
 
 static const PSWatch watch = {"%%BeginFeature:", {"TSCR", "TCPR"}};
 static const std::set<std::string> markers = {
     "%%BeginProlog", "%%EndProlog", "%%EndSetup", "userdict/setpagedevice{pop}bind put", "bp", "%%EndPageSetup", "ep",
     "endp",          "showpage"};
 
-static Reading ReadByteWise(const std::string &document)
+static std::string ReadByteWise(const std::string &document)
 {
-    Reading reading;
-    std::string &line = reading.tail;
+    std::string text, line;
     for (const char byte : document) {
         if (byte == '\r' || byte == '\n') {
             const bool ofInterest = markers.contains(line) || line.starts_with(watch.prefix) ||
                                     line.find("TSCR") != line.npos || line.find("TCPR") != line.npos;
-            reading.text.append(ofInterest ? "<" : "").append(line).append(ofInterest ? ">" : "") += byte;
+            text.append(ofInterest ? "<" : "").append(line).append(ofInterest ? ">" : "") += byte;
             line.clear();
         } else if ((line += byte).size() == 8065) {
-            reading.text += line;
+            text += line;
             line.clear();
         }
     }
-    return reading;
+    return text + '\0' + line;
 }
 
 // Offers the document in pieces of the given size, as a pipe does.
-static Reading ReadInBlocks(const std::string &document, size_t piece)
+static std::string ReadInBlocks(const std::string &document, size_t piece)
 {
     int ends[2];
     EXPECT_EQ(pipe(ends), 0);
@@ -64,9 +59,9 @@ static Reading ReadInBlocks(const std::string &document, size_t piece)
     fclose(out);
     writer.join();
     close(ends[0]);
-    Reading reading = {{text, size}, std::string(CurrentPSLine(reader))};
+    const std::string written(text, size);
     free(text);
-    return reading;
+    return written + '\0' + std::string(CurrentPSLine(reader));
 }
 
 static std::string RandomDocument(std::mt19937 &random)
