@@ -7,6 +7,7 @@
 #include <openssl/rsa.h>
 #include <openssl/x509.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstdio>
 #include <cstring>
@@ -17,7 +18,6 @@ template <auto Free> struct Closer {
 };
 using CipherContext = std::unique_ptr<EVP_CIPHER_CTX, Closer<EVP_CIPHER_CTX_free>>;
 using Base64Context = std::unique_ptr<EVP_ENCODE_CTX, Closer<EVP_ENCODE_CTX_free>>;
-using Key = std::unique_ptr<EVP_PKEY, Closer<EVP_PKEY_free>>;
 using KeyContext = std::unique_ptr<EVP_PKEY_CTX, Closer<EVP_PKEY_CTX_free>>;
 
 // Tells what the library failed with first, the cause of what followed, and forgets it. Returns its reason code.
@@ -117,14 +117,28 @@ int32_t PlatformAESCBCDecrypt(std::span<const unsigned char> key, std::span<cons
     return status;
 }
 
+// The parsed key, kept to the end of the process: a job's passwords go to one key, and parsing it costs more than
+// encrypting for it. Null when it can't be parsed.
+static EVP_PKEY *ParsePublicKey(std::span<const unsigned char> der)
+{
+    static std::vector<unsigned char> parsed;
+    static EVP_PKEY *key = nullptr;
+    if (!key || !std::ranges::equal(der, parsed)) {
+        EVP_PKEY_free(key);
+        const unsigned char *next = der.data();
+        key = d2i_PUBKEY(nullptr, &next, static_cast<long>(der.size()));
+        parsed.assign(der.begin(), der.end());
+    }
+    return key;
+}
+
 int32_t PlatformRSAOAEPEncrypt(std::span<const unsigned char> publicKey, std::span<const unsigned char> data,
                                std::span<unsigned char> out, size_t &outLen, PlatformError &error)
 {
     error = {};
     ERR_clear_error();
-    const unsigned char *der = publicKey.data();
-    const Key key(d2i_PUBKEY(nullptr, &der, static_cast<long>(publicKey.size())));
-    const KeyContext context(key ? EVP_PKEY_CTX_new(key.get(), nullptr) : nullptr);
+    EVP_PKEY *const key = ParsePublicKey(publicKey);
+    const KeyContext context(key ? EVP_PKEY_CTX_new(key, nullptr) : nullptr);
     size_t needed = 0;
     if (!context || EVP_PKEY_encrypt_init(context.get()) != 1 ||
         EVP_PKEY_CTX_set_rsa_padding(context.get(), RSA_PKCS1_OAEP_PADDING) != 1 ||
