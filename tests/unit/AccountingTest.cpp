@@ -51,12 +51,15 @@ TEST_F(Accounting, UnknownHostAndUser)
     const std::string unknown = "@PJL SET JOBATTR=\"@CNAM=UnknownHost\"\n@PJL SET JOBATTR=\"@LUNA=UnknownUser\"\n";
     EXPECT_EQ(Lines(), unknown);
     option.userSetting = option.adminUserSetting = option.userIDList = option.adminUserIDList = 1;
-    for (const int32_t list : {0, 1, 3})
-        for (const int32_t mode : {1, 2}) {
-            option.infoList = list;
-            option.manageType = mode;
-            ExpectLines(0, 1, 0);
-        }
+    for (const char *password : {"", "x"})
+        for (const int32_t list : {0, 1, 3})
+            for (const int32_t mode : {1, 2}) {
+                strcpy(option.userPassword, password);
+                strcpy(option.adminUserPassword, password);
+                option.infoList = list;
+                option.manageType = mode;
+                ExpectLines(0, 1, 0);
+            }
 }
 
 TEST_F(Accounting, AddressOfTheHostUnlessTheDialogGivesOne)
