@@ -97,6 +97,7 @@ void FeaturesOutputZPJLCommandFromFilter(const char *const *argv);
 
 // Writes the fragments that belong to this point of the document: without N-up the separator pages at the end of the
 // prolog and auto-fit at the end of the setup, with N-up both where the document disables setpagedevice.
+bool FeaturesHasPSCommandFromFilter(int32_t event);
 void FeaturesOutputPSCommandFromFilter(int32_t event, FILE *stream);
 
 // Write one fragment each, when its tickets ask for it.

@@ -47,6 +47,11 @@ void FeaturesOutputAutoFit(FILE *stream)
         OutputFragment(autoFit == OptionAutoFitNone ? autoScaleOff : autoScaleOn, stream);
 }
 
+bool FeaturesHasPSCommandFromFilter(int32_t event)
+{
+    return event == kEventEndProlog || event == kEventEndSetup || event == kEventNoPageDevice;
+}
+
 void FeaturesOutputPSCommandFromFilter(int32_t event, FILE *stream)
 {
     const int32_t pagesPerSheet = LayoutCount();

@@ -4,6 +4,7 @@
 #include "OutputSink.h"
 #include "TicketReader.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
@@ -184,14 +185,31 @@ void WatermarkGetTicketFromPDE(const char *const *argv)
     GetTicketFromArray(argv, WatermarkticketData, static_cast<int32_t>(std::size(WatermarkticketData)));
 }
 
+static bool IsTextWatermark()
+{
+    return option.name[0] != '\0' && option.type == 0;
+}
+
+static bool IsDue(const TextWatermarkBlock &block, int32_t event)
+{
+    return block.event == event && block.bToPrint == 1;
+}
+
+bool WatermarkHasPSCommandFromFilter(int32_t event)
+{
+    return IsTextWatermark() && std::ranges::any_of(InjectTextWatermark, [event](const TextWatermarkBlock &block) {
+               return IsDue(block, event);
+           });
+}
+
 void WatermarkOutputPSCommandFromFilter(int32_t event, int32_t, FILE *stream)
 {
-    if (option.name[0] == '\0' || option.type != 0)
+    if (!IsTextWatermark())
         return;
     option.options = 1;
 
     for (TextWatermarkBlock &block : InjectTextWatermark) {
-        if (block.event != event || block.bToPrint != 1)
+        if (!IsDue(block, event))
             continue;
         QBfprintf(stream, block.opening);
         if (block.draws)

@@ -41,6 +41,9 @@ extern WatermarkOptions psOptionWatermark;
 
 void WatermarkGetTicketFromPDE(const char *const *argv);
 
+// Whether a block is still to be written at this point of the document.
+bool WatermarkHasPSCommandFromFilter(int32_t event);
+
 // Writes the block that belongs to this point of the document. The page number is not used.
 void WatermarkOutputPSCommandFromFilter(int32_t event, int32_t pageNumber, FILE *stream);
 

@@ -35,6 +35,11 @@ void OutputZPJLCommandFromFilter(const char *const *argv)
     FeaturesOutputZPJLCommandFromFilter(argv);
 }
 
+bool HasPSCommandFromFilter(int32_t event)
+{
+    return WatermarkHasPSCommandFromFilter(event) || FeaturesHasPSCommandFromFilter(event);
+}
+
 void OutputPSCommandFromFilter(int32_t event, int32_t pageNumber, FILE *out)
 {
     WatermarkOutputPSCommandFromFilter(event, pageNumber, out);

@@ -12,5 +12,8 @@ int32_t GetTicketFromPDE(const char *const *argv);
 // Writes the table-driven lines of the header.
 void OutputZPJLCommandFromFilter(const char *const *argv);
 
+// Whether a module may have something for this event.
+bool HasPSCommandFromFilter(int32_t event);
+
 // Injects what the modules have for this event; pageNumber counts from 1 at page ends.
 void OutputPSCommandFromFilter(int32_t event, int32_t pageNumber, FILE *out);

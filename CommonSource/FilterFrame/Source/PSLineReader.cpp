@@ -91,9 +91,7 @@ static const char *FindWord(const char *from, const char *end, const PSWatch &wa
 {
     constexpr size_t last = kPSWordLength - 1;
     const auto &[one, other] = watch.words;
-    const auto framesWord = [a = one[0], b = other[0], c = one[last], d = other[last]](auto byte, auto behind) {
-        return ((byte == a) & (behind == c)) | ((byte == b) & (behind == d));
-    };
+    const auto framesWord = [a = one[0], b = one[last]](auto byte, auto behind) { return (byte == a) & (behind == b); };
     if (end - from < static_cast<ptrdiff_t>(kPSWordLength))
         return end;
     for (const char *const stop = end - last; (from = FindPosition(from, stop, last, framesWord)) < stop; from++)
@@ -214,6 +212,25 @@ bool NextPSLine(PSLineReader &reader)
     }
 }
 
+bool SkipPSBlock(PSLineReader &reader)
+{
+    if (const char *const last = FindLastLineEnd(reader.line, reader.end))
+        reader.line = last + 1;
+    reader.line += (reader.end - reader.line) / kPSLineLimit * kPSLineLimit;
+    const bool more = Refill(reader);
+    reader.lineEnd = reader.end;
+    return more;
+}
+
+// Injects behind what writeUpTo lets through. Blocks are written whole where nothing is to be injected.
+static void Inject(PSLineReader &reader, void (*writeUpTo)(PSLineReader &), int32_t event, int32_t pageNumber)
+{
+    if (!HasPSCommandFromFilter(event))
+        return;
+    writeUpTo(reader);
+    OutputPSCommandFromFilter(event, pageNumber, reader.out);
+}
+
 bool CopyPSDocument(PSLineReader &reader, const char *const *argv,
                     void (*watched)(std::string_view line, void *context), void *context)
 {
@@ -228,24 +245,18 @@ bool CopyPSDocument(PSLineReader &reader, const char *const *argv,
         const auto [text, event, rules] = *reader.marker;
         if (rules & kCountPage)
             pageNumber++;
-        if ((rules & kInjectBefore) && !((rules & kFirstOnly) && prologEnded)) {
-            WriteBeforePSLine(reader);
-            OutputPSCommandFromFilter(event, pageNumber, reader.out);
-        }
+        if ((rules & kInjectBefore) && !((rules & kFirstOnly) && prologEnded))
+            Inject(reader, WriteBeforePSLine, event, pageNumber);
         if (rules & kFirstOnly)
             prologEnded = true;
         if ((rules & kPageEnd) && CancelJob) {
             WriteBeforePSLine(reader);
             return false;
         }
-        if (rules & kInjectAfter) {
-            WriteThroughPSLine(reader);
-            OutputPSCommandFromFilter(event, pageNumber, reader.out);
-        }
-        if (rules & kLogPage) {
-            WriteThroughPSLine(reader);
+        if (rules & kInjectAfter)
+            Inject(reader, WriteThroughPSLine, event, pageNumber);
+        if (rules & kLogPage)
             OutputPageLogCommand(pageNumber, argv);
-        }
     }
     return true;
 }

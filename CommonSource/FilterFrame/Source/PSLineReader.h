@@ -11,7 +11,7 @@
 // A line ends at a CR or LF, each by itself. One that holds this many bytes without an end is let through unexamined;
 // what follows is a line of its own.
 constexpr size_t kPSLineLimit = 8065;
-constexpr size_t kPSBlockSize = 131072;
+constexpr size_t kPSBlockSize = 65536;
 
 // Markers ask for these.
 enum PSMarkerRules : uint32_t {
@@ -33,7 +33,8 @@ struct PSMarker {
 // Length of a watched word.
 constexpr size_t kPSWordLength = 4;
 
-// Lines that are of interest beside the markers: those that begin with the prefix or hold one of the words.
+// Lines that are of interest beside the markers: those that begin with the prefix or hold one of the words, whose first
+// and last letters are the same.
 struct PSWatch {
     std::string_view prefix;
     std::string_view words[2];
@@ -63,6 +64,9 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
 // Moves to the next line that is a marker or watched; the lines on the way are written. Returns false at the end of the
 // input, with all complete lines written.
 bool NextPSLine(PSLineReader &reader);
+
+// Writes the lines that have been read, unexamined, and reads on. Returns false at the end of the input.
+bool SkipPSBlock(PSLineReader &reader);
 
 // The current line without its end; after NextPSLine returned false, the bytes behind the last line end.
 std::string_view CurrentPSLine(const PSLineReader &reader);

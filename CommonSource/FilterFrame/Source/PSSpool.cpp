@@ -205,6 +205,9 @@ static void CopySpooledDocument(int spool)
 {
     PSLineReader reader;
     OpenPSLineReader(reader, spool, stdout, WritePlain, nullptr);
+    // Until the job is cancelled, no line matters.
+    while (!CancelJob && SkipPSBlock(reader))
+        continue;
     while (NextPSLine(reader)) {
         if (!(reader.marker->rules & kPageEnd))
             continue;
