@@ -33,27 +33,29 @@ static const PSMarker *FindMarker(std::string_view line)
     return nullptr;
 }
 
-// Bytes that are compared at once, how many of them are looked at together, and the length of common lines.
-using Bytes = char __attribute__((vector_size(16)));
-static constexpr ptrdiff_t kScanStep = 4 * sizeof(Bytes);
+// Bytes that are looked at together, and the length of common lines.
+static constexpr ptrdiff_t kScanStep = 64;
 static constexpr ptrdiff_t kShortLine = 256;
 
+// The scans are compiled twice where a processor may have wider vectors than all of its kind.
+#if defined(__x86_64__) && defined(__GLIBC__)
+#define FOR_WIDE_VECTORS_TOO [[gnu::target_clones("avx2", "default")]]
+#else
+#define FOR_WIDE_VECTORS_TOO
+#endif
+
 // The first position in [from, end) at which the test holds for the byte there and the one `offset` behind it, or
-// `end`. The test takes single bytes or vectors of them.
-template <typename Test> static const char *FindPosition(const char *from, const char *end, size_t offset, Test test)
+// `end`. The inner loop is one that compilers make vector code of: without a branch, and all in bytes (with bool they
+// do not).
+template <typename Test>
+[[gnu::always_inline]] static inline const char *FindPosition(const char *from, const char *end, ptrdiff_t offset,
+                                                              Test test)
 {
     for (; end - from >= kScanStep; from += kScanStep) {
-        decltype(test(Bytes{}, Bytes{})) any = {};
-        for (const char *at = from; at < from + kScanStep; at += sizeof(Bytes)) {
-            Bytes bytes, others;
-            memcpy(&bytes, at, sizeof bytes);
-            memcpy(&others, at + offset, sizeof others);
-            any |= test(bytes, others);
-        }
-        uint64_t halves[2];
-        static_assert(sizeof halves == sizeof any);
-        memcpy(halves, &any, sizeof halves);
-        if (halves[0] | halves[1])
+        unsigned char any = 0;
+        for (ptrdiff_t i = 0; i < kScanStep; i++)
+            any = static_cast<unsigned char>(any | test(from[i], from[i + offset]));
+        if (any)
             break;
     }
     while (from < end && !test(from[0], from[offset]))
@@ -61,20 +63,41 @@ template <typename Test> static const char *FindPosition(const char *from, const
     return from;
 }
 
-static constexpr auto isLineEnd = [](auto byte, auto) { return (byte == '\n') | (byte == '\r'); };
+static unsigned char IsLineEnd(char byte)
+{
+    return (byte == '\n') | (byte == '\r');
+}
 
 // The first byte tells almost every line of a document from the markers and the watched prefix.
-static constexpr auto canBeMarker = [](auto first) {
+static unsigned char CanBeMarker(char first)
+{
     return (first == '%') | (first == 'b') | (first == 'e') | (first == 's') | (first == 'u');
-};
+}
 
-static constexpr auto endsBeforeMarker = [](auto byte, auto next) { return isLineEnd(byte, next) & canBeMarker(next); };
+// The first CR or LF in [from, end), or `end`.
+FOR_WIDE_VECTORS_TOO static const char *FindLineEnd(const char *from, const char *end)
+{
+    return FindPosition(from, end, 0, [](char byte, char) { return IsLineEnd(byte); });
+}
+
+// The first CR or LF in [from, end) with the first byte of a marker behind it, or `end`.
+FOR_WIDE_VECTORS_TOO static const char *FindEndBeforeMarker(const char *from, const char *end)
+{
+    return FindPosition(from, end, 1, [](char byte, char next) { return IsLineEnd(byte) & CanBeMarker(next); });
+}
+
+// The first position in [from, end) with the one byte there and the other as a watched word's last, or `end`.
+FOR_WIDE_VECTORS_TOO static const char *FindFrame(const char *from, const char *end, char first, char last)
+{
+    return FindPosition(from, end, kPSWordLength - 1,
+                        [first, last](char byte, char behind) { return (byte == first) & (behind == last); });
+}
 
 // The last CR or LF in [from, end), or null.
 static const char *FindLastLineEnd(const char *from, const char *end)
 {
     while (end > from)
-        if (isLineEnd(*--end, 0))
+        if (IsLineEnd(*--end))
             return end;
     return nullptr;
 }
@@ -83,7 +106,7 @@ static const char *FindLastLineEnd(const char *from, const char *end)
 static const char *FindLateLineEnd(const char *from, const char *end)
 {
     const char *const late = FindLastLineEnd(end - std::min(end - from, kShortLine), end);
-    return late ? late : FindPosition(from, end, 0, isLineEnd);
+    return late ? late : FindLineEnd(from, end);
 }
 
 // The first of the watched words in [from, end), or `end`.
@@ -91,10 +114,9 @@ static const char *FindWord(const char *from, const char *end, const PSWatch &wa
 {
     constexpr size_t last = kPSWordLength - 1;
     const auto &[one, other] = watch.words;
-    const auto framesWord = [a = one[0], b = one[last]](auto byte, auto behind) { return (byte == a) & (behind == b); };
     if (end - from < static_cast<ptrdiff_t>(kPSWordLength))
         return end;
-    for (const char *const stop = end - last; (from = FindPosition(from, stop, last, framesWord)) < stop; from++)
+    for (const char *const stop = end - last; (from = FindFrame(from, stop, one[0], one[last])) < stop; from++)
         if (const std::string_view word(from, kPSWordLength); word == one || word == other)
             return from;
     return end;
@@ -107,8 +129,8 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
     reader.out = out;
     reader.write = write;
     reader.watch = watch;
-    reader.end = reader.block;
-    reader.written = reader.line = reader.lineEnd = reader.block;
+    reader.end = reader.block + kPSLineRoom;
+    reader.written = reader.line = reader.lineEnd = reader.end;
     reader.nextWord = nullptr;
     reader.marker = nullptr;
     reader.last = '\0';
@@ -118,8 +140,8 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
 static const char *FindCandidate(PSLineReader &reader, const char *lineEnd)
 {
     const char *candidate = reader.line;
-    if (!canBeMarker(*candidate))
-        candidate = FindPosition(reader.line, lineEnd, 1, endsBeforeMarker) + 1;
+    if (!CanBeMarker(*candidate))
+        candidate = FindEndBeforeMarker(reader.line, lineEnd) + 1;
     if (reader.watch) {
         if (!reader.nextWord || reader.nextWord < reader.line)
             reader.nextWord = FindWord(reader.line, reader.end, *reader.watch);
@@ -159,23 +181,24 @@ std::string_view CurrentPSLine(const PSLineReader &reader)
     return {reader.line, reader.lineEnd};
 }
 
-// Writes all but the unfinished line, moves that to the front and reads on behind it. Returns false at the end.
+// Writes all but the unfinished line, moves that before the block and reads on. Returns false at the end.
 static bool Refill(PSLineReader &reader)
 {
     WriteBeforePSLine(reader);
     const size_t unfinished = static_cast<size_t>(reader.end - reader.line);
-    memmove(reader.block, reader.line, unfinished);
-    reader.written = reader.line = reader.block;
+    char *const block = reader.block + kPSLineRoom;
+    memmove(block - unfinished, reader.line, unfinished);
+    reader.written = reader.line = block - unfinished;
 
     ssize_t count;
     do
-        count = read(reader.in, reader.block + unfinished, kPSBlockSize);
+        count = read(reader.in, block, kPSBlockSize);
     while (count < 0 && errno == EINTR);
     if (count <= 0) {
-        reader.end = reader.block + unfinished;
+        reader.end = block;
         return false;
     }
-    reader.end = reader.block + unfinished + count;
+    reader.end = block + count;
     reader.last = reader.end[-1];
     reader.nextWord = nullptr;
     return true;
@@ -204,7 +227,7 @@ bool NextPSLine(PSLineReader &reader)
             continue;
         }
         reader.line = candidate;
-        reader.lineEnd = FindPosition(candidate, lineEnd, 0, isLineEnd);
+        reader.lineEnd = FindLineEnd(candidate, lineEnd);
         reader.marker = FindMarker(CurrentPSLine(reader));
         if (reader.marker || IsWatched(reader))
             return true;
@@ -216,7 +239,7 @@ bool SkipPSBlock(PSLineReader &reader)
 {
     if (const char *const last = FindLastLineEnd(reader.line, reader.end))
         reader.line = last + 1;
-    reader.line += (reader.end - reader.line) / kPSLineLimit * kPSLineLimit;
+    reader.line = reader.end - static_cast<size_t>(reader.end - reader.line) % kPSLineLimit;
     const bool more = Refill(reader);
     reader.lineEnd = reader.end;
     return more;

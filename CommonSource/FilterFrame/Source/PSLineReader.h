@@ -11,7 +11,13 @@
 // A line ends at a CR or LF, each by itself. One that holds this many bytes without an end is let through unexamined;
 // what follows is a line of its own.
 constexpr size_t kPSLineLimit = 8065;
+
+// What is read at once: no more than a pipe holds, so that the next block is read and examined while the reader at the
+// pipe's other end takes the last. It always begins at a page, to which the kernel copies fastest.
 constexpr size_t kPSBlockSize = 65536;
+constexpr size_t kPSBlockAlignment = 4096;
+constexpr size_t kPSLineRoom = 2 * kPSBlockAlignment;
+static_assert(kPSLineRoom >= kPSLineLimit);
 
 // Markers ask for these.
 enum PSMarkerRules : uint32_t {
@@ -48,7 +54,7 @@ struct PSLineReader {
     void (*write)(const void *buffer, size_t size, size_t count, FILE *stream); // QBfwrite, or a plain write
     const PSWatch *watch;                                                       // or null
 
-    char block[kPSLineLimit + kPSBlockSize];
+    alignas(kPSBlockAlignment) char block[kPSLineRoom + kPSBlockSize]; // an unfinished line, then what is read
     const char *written;
     const char *line;
     const char *lineEnd;
