@@ -96,9 +96,15 @@ FOR_WIDE_VECTORS_TOO static const char *FindFrame(const char *from, const char *
 // The last CR or LF in [from, end), or null.
 static const char *FindLastLineEnd(const char *from, const char *end)
 {
-    while (end > from)
-        if (IsLineEnd(*--end))
+    while (end > from) {
+        const char *const begin = end - std::min(end - from, kShortLine);
+        if (FindLineEnd(begin, end) < end) {
+            while (!IsLineEnd(*--end))
+                continue;
             return end;
+        }
+        end = begin;
+    }
     return nullptr;
 }
 
