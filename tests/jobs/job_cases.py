@@ -57,6 +57,8 @@ def read_cases(path, ppds, lines, defaults):
             content = case[word] = bytearray(argument)
         elif word in (b"ticket", b"option"):
             case[b"options"] += b" " + (b"com.orvane.dlg.printsettings." if word == b"ticket" else b"") + unescape(argument)
+        elif word == b"tickets":
+            case[b"options"] += b"".join(b" com.orvane.dlg.printsettings." + ticket for ticket in argument.split())
         elif word in DEFAULTS:
             case[word] = unescape(argument)
         elif row and word != b"#":
