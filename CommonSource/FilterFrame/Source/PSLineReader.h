@@ -25,7 +25,7 @@ enum PSMarkerRules : uint32_t {
     kInjectAfter = 2,  // write the line, then inject
     kFirstOnly = 4,    // inject at the first such line of the document only
     kCountPage = 8,    // a page ends: count it before the injection
-    kLogPage = 16,     // and report it once the line is written
+    kLogPage = 16,     // and report it; its line goes out with its block
     kPageEnd = 32,     // a cancelled job ends here, before the line
 };
 
@@ -67,8 +67,8 @@ struct PSLineReader {
 void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
                       const PSWatch *watch);
 
-// Moves to the next line that is a marker or watched; the lines on the way are written. Returns false at the end of the
-// input, with all complete lines written.
+// Moves to the next line that is a marker or watched; the lines on the way go out with their block or, sooner, with one
+// of the write calls. Returns false at the end of the input, with all complete lines written.
 bool NextPSLine(PSLineReader &reader);
 
 // Writes the lines that have been read, unexamined, and reads on. Returns false at the end of the input.

@@ -22,12 +22,13 @@ static constexpr size_t kFeatureLineSize = 100;
 // Digits of a screen line that are looked at.
 static constexpr size_t kMaxScreenDigits = 100;
 
-static const char featurePrefix[] = "%%BeginFeature:";
+static constexpr char featurePrefix[] = "%%BeginFeature:";
 
 // The first word of each of these sets is the one that the line reader looks for.
-static const std::string_view screenWords[] = {"TSCR", "GSCR", "ISCR", "TTRC", "GTRC", "ITRC"};
-static const std::string_view curveWords[] = {"TCPR", "GCPR", "ICPR"};
-static const PSWatch featureWatch = {featurePrefix, {screenWords[0], curveWords[0]}};
+static constexpr std::string_view screenWords[] = {"TSCR", "GSCR", "ISCR", "TTRC", "GTRC", "ITRC"};
+static constexpr std::string_view curveWords[] = {"TCPR", "GCPR", "ICPR"};
+static constexpr PSWatch featureWatch = {featurePrefix, {screenWords[0], curveWords[0]}};
+static_assert(screenWords[0].front() == curveWords[0].front() && screenWords[0].back() == curveWords[0].back());
 
 // The resolution that each choice of the output mode asks for, and its line.
 static const struct {
