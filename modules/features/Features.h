@@ -95,9 +95,11 @@ void FeaturesGetTicketFromPDE(const char *const *argv);
 // Writes the PJL lines that the tickets ask for.
 void FeaturesOutputZPJLCommandFromFilter(const char *const *argv);
 
+// Whether fragments may belong to this point of the document.
+bool FeaturesHasPSCommandFromFilter(int32_t event);
+
 // Writes the fragments that belong to this point of the document: without N-up the separator pages at the end of the
 // prolog and auto-fit at the end of the setup, with N-up both where the document disables setpagedevice.
-bool FeaturesHasPSCommandFromFilter(int32_t event);
 void FeaturesOutputPSCommandFromFilter(int32_t event, FILE *stream);
 
 // Write one fragment each, when its tickets ask for it.
