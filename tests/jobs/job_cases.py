@@ -21,6 +21,7 @@ SAMPLES, DATA = map(Path, sys.argv[3:5])
 PRIVATE_KEY = DATA / "keys" / "development-2048.pem"
 PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
             b'*LanguageEncoding: ISOLatin1\n')
+TICKET = b"com.orvane.dlg.printsettings."
 CODES = {b"e": b"\x1b", b"r": b"\r", b"n": b"\n", b"t": b"\t", b"\\": b"\\"}
 DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1", b"options": b""}
 
@@ -55,10 +56,9 @@ def read_cases(path, ppds, lines, defaults):
             content = ppds[argument] = bytearray()
         elif word in (b"document", b"file", b"header", b"output", b"messages"):
             content = case[word] = bytearray(argument)
-        elif word in (b"ticket", b"option"):
-            case[b"options"] += b" " + (b"com.orvane.dlg.printsettings." if word == b"ticket" else b"") + unescape(argument)
-        elif word == b"tickets":
-            case[b"options"] += b"".join(b" com.orvane.dlg.printsettings." + ticket for ticket in argument.split())
+        elif word in (b"ticket", b"tickets", b"option"):
+            for option in argument.split() if word == b"tickets" else [argument]:
+                case[b"options"] += b" " + (b"" if word == b"option" else TICKET) + unescape(option)
         elif word in DEFAULTS:
             case[word] = unescape(argument)
         elif row and word != b"#":
