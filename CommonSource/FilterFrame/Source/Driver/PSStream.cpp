@@ -2,7 +2,7 @@
 
 #include "BoundedText.h"
 #include "OutputSink.h"
-#include "PSLineReader.h"
+#include "PSDocument.h"
 #include "TicketReader.h"
 
 #include <fcntl.h>

@@ -5,7 +5,7 @@
 #include "JobHeader.h"
 #include "JobState.h"
 #include "OutputSink.h"
-#include "PSLineReader.h"
+#include "PSDocument.h"
 
 #include <algorithm>
 #include <cstring>
