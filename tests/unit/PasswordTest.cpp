@@ -52,6 +52,25 @@ TEST(Password, EachBlobHasASaltAndAVectorOfItsOwn)
     EXPECT_NE(memcmp(&blobs[0][336], &blobs[1][336], 16), 0);
 }
 
+TEST(Password, IsStoredInAFormThatIsReadAgain)
+{
+    EXPECT_EQ(StorePassword("secret"), secret);
+    EXPECT_EQ(StorePassword(""), "");
+    EXPECT_EQ(StorePassword(std::string(kStoredPasswordMaxLength + 1, 'x')), "");
+    size_t refused = 0, asByteValues = 0;
+    for (size_t length = 1; length <= kStoredPasswordMaxLength; length++) {
+        auto field = Buffer(kEncryptedPasswordSize);
+        const std::string value = StorePassword(std::string(length, '\x81')),
+                          messages = Printed([&] { Get(value, field); });
+        refused += value.empty();
+        asByteValues += value.starts_with("/");
+        EXPECT_EQ(messages, "");
+        EXPECT_TRUE(value.empty() || TextOf(field).size() >= 492) << length;
+    }
+    EXPECT_EQ(refused, 0u);
+    EXPECT_GE(asByteValues, 1u);
+}
+
 TEST(SecureBlob, TransportReportsTheStepThatFailed)
 {
     CheckRows("blob-transport", [](const Cells &given) -> Cells {

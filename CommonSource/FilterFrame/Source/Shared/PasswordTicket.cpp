@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <string>
 
 constexpr int32_t kStoredPasswordSize = 255;
 constexpr int32_t kBase64Capacity = 2000;
@@ -22,22 +23,33 @@ struct PasswordWork {
     unsigned char plain[255];
 };
 
-// Fills the destination, of which nothing is left when 0 is returned.
-static int32_t ConvertPassword(const char *value, char *destination, int32_t size, PasswordWork &work)
+// Puts the value's text into the destination and what its base64 stands for into work.binary.
+static bool DecodeValue(const char *value, char *destination, int32_t size, PasswordWork &work, int32_t &storedLength)
 {
     CopyCut(work.text, value);
     numstrtochar(work.text, sizeof work.text);
     ConvertUTF8ToEncoding(work.text, destination, size);
 
     // The length is that of the value as it came; the decoder stops at the text's NUL.
-    int32_t storedLength = 0;
-    if (ZSPB64ToBin(destination, static_cast<int32_t>(strlen(value)), work.binary, &storedLength,
-                    kStoredPasswordSize) != kZSPSuccess)
-        return 0;
+    return ZSPB64ToBin(destination, static_cast<int32_t>(strlen(value)), work.binary, &storedLength,
+                       kStoredPasswordSize) == kZSPSuccess;
+}
 
-    uint32_t plainLength = sizeof work.plain;
-    if (Decode_Storage(work.binary, static_cast<uint32_t>(storedLength), seed1, sizeof seed1, seed2, sizeof seed2,
-                       seed3, sizeof seed3, work.plain, &plainLength) != kSecBlobEncSuccess)
+static bool DecryptStored(PasswordWork &work, int32_t storedLength, uint32_t &plainLength)
+{
+    plainLength = sizeof work.plain;
+    return Decode_Storage(work.binary, static_cast<uint32_t>(storedLength), seed1, sizeof seed1, seed2, sizeof seed2,
+                          seed3, sizeof seed3, work.plain, &plainLength) == kSecBlobEncSuccess;
+}
+
+// Fills the destination, of which nothing is left when 0 is returned.
+static int32_t ConvertPassword(const char *value, char *destination, int32_t size, PasswordWork &work)
+{
+    int32_t storedLength = 0;
+    uint32_t plainLength = 0;
+    if (!DecodeValue(value, destination, size, work, storedLength))
+        return 0;
+    if (!DecryptStored(work, storedLength, plainLength))
         return 1;
 
     uint32_t blobLength = sizeof work.binary;
@@ -69,4 +81,37 @@ int32_t GetTicketPasswordStringConvertedToEncryption(const char *key, int32_t op
     if (!present)
         memset(destination, 0, static_cast<size_t>(size));
     return present;
+}
+
+// Whether the getter finds the password again: as byte values a long one does not fit.
+static bool IsReadAgain(const std::string &value)
+{
+    PasswordWork work{};
+    char text[sizeof work.text];
+    int32_t storedLength = 0;
+    uint32_t plainLength = 0;
+    const bool read = DecodeValue(value.c_str(), text, sizeof text, work, storedLength) &&
+                      DecryptStored(work, storedLength, plainLength);
+    PlatformWipe(&work, sizeof work);
+    return read;
+}
+
+std::string StorePassword(std::string_view password)
+{
+    unsigned char stored[kStoredPasswordSize];
+    uint32_t storedLength = sizeof stored;
+    if (password.empty() || password.size() > kStoredPasswordMaxLength ||
+        Encode_Storage(reinterpret_cast<const unsigned char *>(password.data()), static_cast<uint32_t>(password.size()),
+                       seed1, sizeof seed1, seed2, sizeof seed2, seed3, sizeof seed3, stored,
+                       &storedLength) != kSecBlobEncSuccess)
+        return {};
+
+    char base64[(sizeof stored + 2) / 3 * 4];
+    int32_t base64Length = 0;
+    ZSPBinToB64(stored, static_cast<int32_t>(storedLength), base64, &base64Length, sizeof base64);
+    std::string value(base64, static_cast<size_t>(base64Length));
+    // Three digits for each character keep the value's length a multiple of four, which the getter asks of base64.
+    if (value.starts_with('/'))
+        value = ByteValues(value, 3);
+    return IsReadAgain(value) ? value : std::string();
 }

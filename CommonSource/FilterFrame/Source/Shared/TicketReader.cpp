@@ -8,7 +8,6 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <string>
 
 const char kNumberUpTicketKey[] = "number-up";
 const char kLayoutDirectionTicketKey[] = "com.apple.print.PrintSettings.PMLayoutDirection..n.";
@@ -61,6 +60,17 @@ void numstrtochar(char *text, int32_t size)
         text[write] = '\0';
         read = end + 1;
     }
+}
+
+std::string ByteValues(std::string_view text, int digits)
+{
+    std::string list;
+    for (const char byte : text) {
+        char number[16];
+        list.append(number,
+                    FormatCut(number, "/%0*u", digits, static_cast<unsigned>(static_cast<unsigned char>(byte))));
+    }
+    return list;
 }
 
 int32_t GetTicketInteger(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t)

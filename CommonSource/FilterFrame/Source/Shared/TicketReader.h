@@ -6,6 +6,8 @@
 #include <cups/cups.h>
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 // Returns 1 when the key was present, 0 when absent, unless the getter says otherwise.
 using TicketGetter = int32_t (*)(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
@@ -40,6 +42,9 @@ int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int
 // Decodes, in place, a text that is a list of decimal byte values, each preceded by "/"; any other text is left as it
 // is. `size` is the buffer's.
 void numstrtochar(char *text, int32_t size);
+
+// The list that numstrtochar decodes to `text`, each value written with at least `digits` digits.
+std::string ByteValues(std::string_view text, int digits);
 
 // int32: atoi of the value, -1 when absent.
 int32_t GetTicketInteger(const char *key, int32_t optionCount, cups_option_t *options, void *destination, int32_t size);
