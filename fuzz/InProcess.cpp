@@ -1,6 +1,7 @@
 #include "InProcess.h"
 
 #include "FilterFrame.h"
+#include "PPDLookup.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -71,6 +72,18 @@ static std::string PathOf(int file)
     return "/proc/self/fd/" + std::to_string(file);
 }
 
+void UsePPD(const std::string &text)
+{
+    static int ppd = -1;
+    static std::string used;
+    if (used == text)
+        return;
+    used = text;
+    CloseJobPPD();
+    FileOf("ppd", text, ppd);
+    setenv("PPD", PathOf(ppd).c_str(), 1);
+}
+
 static void TakeStandardOutput()
 {
     const int file = memfd_create("output", 0);
@@ -89,12 +102,11 @@ static std::string ReadOutput()
 
 std::string RunInProcess(const InProcessJob &job)
 {
-    static int ppd = -1, document = -1;
+    static int document = -1;
     static const bool taken = (TakeStandardOutput(), true);
     Require(taken);
-    FileOf("ppd", job.ppd, ppd);
+    UsePPD(job.ppd);
     FileOf("document", job.document, document);
-    setenv("PPD", PathOf(ppd).c_str(), 1);
     const std::string path = PathOf(document);
     const char *const argv[] = {
         "pstoorvane",        "1",          job.user.c_str(), job.title.c_str(), job.copies.c_str(),

@@ -14,6 +14,9 @@ struct InProcessJob {
     bool fromFile = true; // else from standard input
 };
 
+// Makes this text the PPD that the filter asks; one that it has asked last is not read again.
+void UsePPD(const std::string &text);
+
 // Runs the job and returns what it wrote. A job that was not cancelled has a complete header and trailer.
 std::string RunInProcess(const InProcessJob &job);
 

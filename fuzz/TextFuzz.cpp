@@ -42,10 +42,11 @@ static void CheckNames(const std::string &text, unsigned mode)
     const std::string options = std::string(kPrintTypeProductType) + "=" + std::to_string(mode >> 4 & 7);
     const char *const argv[] = {"", "1", "", "", "1", mode & 8 ? options.c_str() : "", nullptr};
     ClearJobState();
-    UTF8Mode = mode & 1;
-    const auto convert = UTF8Mode ? ConvertUTF8ToEncodingForUTF8 : ConvertUTF8ToEncoding;
-    convert(text.c_str(), StdUserName, UTF8Mode ? kUserNameSize : kUserNameSizeLegacy);
-    CopyCut({StdJBAUserName, UTF8Mode ? kJBAUserNameSize : kJBAUserNameSizeLegacy}, StdUserName);
+    const bool inUTF8 = mode & 1;
+    UsePPD(PPDOfKind(inUTF8 ? 0 : 1, false));
+    const auto convert = inUTF8 ? ConvertUTF8ToEncodingForUTF8 : ConvertUTF8ToEncoding;
+    convert(text.c_str(), StdUserName, inUTF8 ? kUserNameSize : kUserNameSizeLegacy);
+    CopyCut({StdJBAUserName, inUTF8 ? kJBAUserNameSize : kJBAUserNameSizeLegacy}, StdUserName);
     convert(text.c_str(), StdDocumentName, kDocumentNameSize);
     convert(text.c_str(), PTStdDocumentName, kDocumentNameSize);
     InvalidateStdUserName();
@@ -71,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (PlatformDecodeUTF8(text, units))
         Require(UTF8BytesOfUnits(text, units.size()) == text.size());
     char host[kHostNameSize], address[kIPAddressSize];
-    CutHostName(text, host);
+    CutHostName(text, data[1] & 1, host);
     CompactAddress(text, address);
     return 0;
 }

@@ -1,8 +1,8 @@
 #include "Booklet.h"
 
 #include "Comment.h"
-#include "JobState.h"
 #include "OutputSink.h"
+#include "PPDLookup.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -40,7 +40,7 @@ static void OutputBinding()
 
 void OutputZPJLCommandforBooklet()
 {
-    if (!UTF8Mode)
+    if (!IsUTF8Mode())
         return;
     QBfputs(IsSheetLandscape() ? "@PJL SET JOBATTR=\"@DIND=LANDSCAPE\"\n" : "@PJL SET JOBATTR=\"@DIND=PORTRAIT\"\n",
             stdout);

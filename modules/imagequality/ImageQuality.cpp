@@ -2,8 +2,8 @@
 
 #include "BoundedText.h"
 #include "Comment.h"
-#include "JobState.h"
 #include "OutputSink.h"
+#include "PPDLookup.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -95,6 +95,6 @@ void OutputZPJLCommandOthers()
 
 void OutputZPJLCommandLanguageEncoding()
 {
-    if (UTF8Mode)
+    if (IsUTF8Mode())
         QBfputs("@PJL SET STRINGCODESET=UTF8\n", stdout);
 }

@@ -1,6 +1,7 @@
 #include "JBA.h"
 
 #include "JobState.h"
+#include "PPDLookup.h"
 #include "TicketReader.h"
 
 #include <array>
@@ -154,8 +155,8 @@ void JBAInializeDescriptionTableFromFilter()
 
 void JBAGetTicketFromPDE(const char *const *argv)
 {
-    const auto &common = UTF8Mode ? JBAticketDataCommonForUTF8 : JBAticketDataCommon;
-    const auto &admin = UTF8Mode ? JBAticketDataAdminForUTF8 : JBAticketDataAdmin;
+    const auto &common = IsUTF8Mode() ? JBAticketDataCommonForUTF8 : JBAticketDataCommon;
+    const auto &admin = IsUTF8Mode() ? JBAticketDataAdminForUTF8 : JBAticketDataAdmin;
     GetTicketFromArray(argv, common.data(), JBATicketDataNumCommon);
     GetTicketFromArray(argv, admin.data(), JBATicketDataNumAdmin);
 }

@@ -1,6 +1,5 @@
 #include "PrintType.h"
 
-#include "JobState.h"
 #include "PPDLookup.h"
 #include "TicketReader.h"
 
@@ -45,13 +44,13 @@ void PrintTypeInializeDescriptionTableFromFilter()
 
 void PrintTypeGetTicketFromPDE(const char *const *argv)
 {
-    const auto &tickets = UTF8Mode ? PrintTypeticketDataForUTF8 : PrintTypeticketData;
+    const auto &tickets = IsUTF8Mode() ? PrintTypeticketDataForUTF8 : PrintTypeticketData;
     GetTicketFromArray(argv, tickets.data(), static_cast<int32_t>(tickets.size()));
 }
 
 void PrintTypeOutputZPJLCommandFromFilter(const char *const *argv)
 {
-    if (UTF8Mode && CheckIfPPDKeywordSupported(JobPPD(), "QBXPrintTypeSettings", "Default04"))
+    if (IsUTF8Mode() && CheckIfPPDKeywordSupported(JobPPD(), "QBXPrintTypeSettings", "Default04"))
         OutputZPJLCommandFromArray(argv, PrintTypeFmtPartTable, PrintTypeFmtPartTableNum);
     else
         OutputZPJLCommandFromArray(argv, PrintTypeFmtTable, PrintTypeFmtTableNum);

@@ -3,7 +3,9 @@
 
 #include "JobState.h"
 #include "Rows.h"
+#include "TestPPD.h"
 
+#include <algorithm>
 #include <cstring>
 
 TEST(NameValidation, AllowedCharacters)
@@ -37,5 +39,17 @@ TEST(NameValidation, WhatNoJobReaches)
         memset(StdUserName, 'a', length);
         InvalidateStdUserName();
         EXPECT_EQ(strlen(StdUserName), 255u);
+    }
+}
+
+TEST(NameValidation, AsksThePPDForTheMode)
+{
+    const TestPPD ppd("*OVPrinterLanguageEncoding: \"UTF-8\"\n");
+    for (const size_t length : {33u, 256u}) {
+        ClearJobState();
+        memset(StdUserName, 'a', length);
+        InvalidateStdUserName();
+        EXPECT_EQ(strlen(StdUserName), std::min<size_t>(length, 255));
+        EXPECT_EQ(strlen(StdJBAUserName), 32u);
     }
 }

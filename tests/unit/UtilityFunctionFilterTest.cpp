@@ -66,10 +66,8 @@ TEST(HostName, IsCutByUnitsInUTF8ModeOnly)
 {
     CheckRows("host-names", [](const Cells &given) -> Cells {
         auto legacy = Buffer(kHostNameSize), utf8 = Buffer(kHostNameSize);
-        CutHostName(given[0], legacy.data());
-        UTF8Mode = true;
-        CutHostName(given[0], utf8.data());
-        UTF8Mode = false;
+        CutHostName(given[0], false, legacy.data());
+        CutHostName(given[0], true, utf8.data());
         return {TextOf(legacy), TextOf(utf8)};
     });
 }

@@ -74,7 +74,7 @@ static void ForbidCoreFiles()
 
 static void TakeUserName(const char *user)
 {
-    if (UTF8Mode) {
+    if (IsUTF8Mode()) {
         ConvertUTF8ToEncodingForUTF8(user, StdUserName, kUserNameSize);
         CopyCut(StdJBAUserName, StdUserName);
     } else {
@@ -90,7 +90,7 @@ static void TakeDocumentName(const char *const *argv)
     const char *title = argv[3];
     if (strpbrk(title, "\r\n"))
         return;
-    if (UTF8Mode) {
+    if (IsUTF8Mode()) {
         ConvertUTF8ToEncodingForUTF8(title, StdDocumentName, kDocumentNameSize);
         ConvertUTF8ToEncodingForUTF8(title, PTStdDocumentName, kDocumentNameSize);
         InvalidateStdDocumentNameForProductType(argv);
@@ -156,7 +156,6 @@ static void CloseJobCopy()
 static int RunJob(int argc, const char *const *argv)
 {
     ClearJobState();
-    UTF8Mode = PPDAttributeIs(KPPDCharEncoding, "UTF-8");
     InstallHandler(SIGTERM, SignalHandler);
     InstallHandler(SIGPIPE, SignalPipeHandler);
     TakeUserName(argv[2]);

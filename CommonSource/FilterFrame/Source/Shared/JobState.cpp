@@ -28,8 +28,6 @@ char IPAddressStr[kIPAddressSize];
 
 const char defaultUserName[12] = "UnknownUser";
 
-bool UTF8Mode = false;
-
 volatile sig_atomic_t CancelJob = 0;
 volatile sig_atomic_t CancelJobForPipe = 0;
 

@@ -1,4 +1,4 @@
-// JobState: what the whole job shares: the name, host, layout and paper buffers and the UTF-8 mode.
+// JobState: what the whole job shares: the name, host, layout and paper buffers.
 // Filled at start and by the tickets, only read afterwards.
 #pragma once
 
@@ -39,9 +39,6 @@ extern char IPAddressStr[kIPAddressSize];
 
 // What a user whose name is rejected is called.
 extern const char defaultUserName[12];
-
-// The job's texts go to the printer as UTF-8, otherwise as Shift-JIS.
-extern bool UTF8Mode;
 
 // Set by the signal handlers: the job was cancelled, and the output pipe broke.
 extern volatile sig_atomic_t CancelJob;

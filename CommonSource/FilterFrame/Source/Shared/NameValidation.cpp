@@ -2,6 +2,7 @@
 
 #include "BoundedText.h"
 #include "JobState.h"
+#include "PPDLookup.h"
 #include "Platform.h"
 #include "TextEncoding.h"
 #include "TicketReader.h"
@@ -177,7 +178,7 @@ static void InvalidateStdUserNameForUTF8()
 
 void InvalidateStdUserName()
 {
-    if (UTF8Mode) {
+    if (IsUTF8Mode()) {
         InvalidateStdUserNameForUTF8();
         return;
     }
@@ -218,7 +219,7 @@ void InvalidateStdDocumentNameForProductType(const char *const *argv)
 {
     int32_t type;
     const bool present = ReadProductType(argv, type);
-    if (UTF8Mode) {
+    if (IsUTF8Mode()) {
         if (present)
             CutToUnits(StdDocumentName, DocumentNameLimit(type));
         return;
@@ -240,7 +241,7 @@ void InvalidatePrintTypeDocumentNameForProductType(const char *const *argv)
     int32_t type;
     if (!ReadProductType(argv, type)) {
         DropInvalidPrintTypeName(docuNameValidateDataScale);
-    } else if (UTF8Mode) {
+    } else if (IsUTF8Mode()) {
         CutToUnits(PTStdDocumentName, DocumentNameLimit(type));
         DropInvalidPrintTypeName(type == 3 || type == 5 ? docuNameValidateDataScaleForProduct03UTF8
                                                         : docuNameValidateDataScale);

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <optional>
+#include <string>
 
 // The PPD functions of libcups are marked deprecated as a family; this file is the one that calls them.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -13,25 +15,38 @@ const char DeviceColorModeMono[] = "False";
 const char DefaultQBColorModeColor[] = "Color";
 const char DefaultQBColorModeBlack[] = "Black";
 
-static ppd_file_t *jobPPD = nullptr;
-static bool jobPPDOpened = false;
+// The PPD that was looked at last; without a path none was.
+static struct {
+    std::optional<std::string> path;
+    ppd_file_t *ppd;
+    bool UTF8;
+} job;
 
 ppd_file_t *JobPPD()
 {
-    if (!jobPPDOpened) {
-        const char *path = getenv("PPD");
-        jobPPD = path ? ppdOpenFile(path) : nullptr;
-        jobPPDOpened = true;
+    const char *variable = getenv("PPD");
+    const char *path = variable ? variable : "";
+    if (job.path != path) {
+        CloseJobPPD();
+        job.path = path;
+        job.ppd = ppdOpenFile(path);
+        const ppd_attr_t *encoding = ppdFindAttr_ALT(job.ppd, KPPDCharEncoding);
+        job.UTF8 = encoding && encoding->value && strcmp(encoding->value, "UTF-8") == 0;
     }
-    return jobPPD;
+    return job.ppd;
 }
 
 void CloseJobPPD()
 {
-    if (jobPPD)
-        ppdClose(jobPPD);
-    jobPPD = nullptr;
-    jobPPDOpened = false;
+    if (job.ppd)
+        ppdClose(job.ppd);
+    job = {};
+}
+
+bool IsUTF8Mode()
+{
+    JobPPD();
+    return job.UTF8;
 }
 
 const ppd_attr_t *ppdFindAttr_ALT(const ppd_file_t *ppd, const char *name)

@@ -1,5 +1,6 @@
 // PPDLookup: the queue's PPD and every question about it.
-// The file is parsed once a job, at the first question; one that can't be read answers everything with "absent".
+// The file is parsed at the first question, and again when PPD names another one; one that can't be read answers
+// everything with "absent".
 #pragma once
 
 #include <cups/ppd.h>
@@ -15,11 +16,15 @@ extern const char DeviceColorModeMono[];
 extern const char DefaultQBColorModeColor[];
 extern const char DefaultQBColorModeBlack[];
 
-// The open PPD of the queue that the environment variable PPD names; null when there is none.
+// The open PPD of the queue that the environment variable PPD names; null when there is none. What it points at lives
+// until PPD names another file or CloseJobPPD.
 ppd_file_t *JobPPD();
 
 // Closes it; the next question opens the file again.
 void CloseJobPPD();
+
+// Whether the job's texts go to the printer as UTF-8, otherwise as Shift-JIS.
+bool IsUTF8Mode();
 
 // The first attribute, in file order, whose name begins with `name`; null when there is none.
 const ppd_attr_t *ppdFindAttr_ALT(const ppd_file_t *ppd, const char *name);

@@ -1,6 +1,7 @@
 #include "UtilityFunctionFilter.h"
 
 #include "BoundedText.h"
+#include "PPDLookup.h"
 #include "TextEncoding.h"
 
 #include <algorithm>
@@ -43,10 +44,10 @@ static bool IsASCII(std::string_view text)
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-void CutHostName(std::string_view name, char *destination)
+void CutHostName(std::string_view name, bool inUTF8, char *destination)
 {
     std::u16string units;
-    if (UTF8Mode && PlatformDecodeUTF8(name, units) && units.size() > kHostNameUnits)
+    if (inUTF8 && PlatformDecodeUTF8(name, units) && units.size() > kHostNameUnits)
         name = name.substr(0, UTF8BytesOfUnits(name, kHostNameUnits));
     memset(destination, 0, kHostNameSize);
     CopyCut({destination, kHostNameSize}, name);
@@ -57,7 +58,7 @@ void getHostName(char *destination)
     char name[kSystemHostName + 1] = "";
     if (gethostname(name, kSystemHostName) != 0)
         name[0] = '\0';
-    CutHostName(name, destination);
+    CutHostName(name, IsUTF8Mode(), destination);
 }
 
 bool getHostAddress(const char *name, char *destination, int32_t size)

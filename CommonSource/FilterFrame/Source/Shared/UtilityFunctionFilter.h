@@ -17,9 +17,8 @@ extern const char _IPv6_sign_[];
 // Fills a buffer of kHostNameSize bytes with the host's name; empty when it has none.
 void getHostName(char *destination);
 
-// Cuts a name to what is sent, 32 UTF-16 units in UTF-8 mode and as many bytes as fit otherwise, into kHostNameSize
-// bytes.
-void CutHostName(std::string_view name, char *destination);
+// Cuts a name to what is sent, 32 UTF-16 units in UTF-8 and as many bytes as fit otherwise, into kHostNameSize bytes.
+void CutHostName(std::string_view name, bool inUTF8, char *destination);
 
 // Resolves a name (ASCII) to a numeric address of at most `size` bytes, NUL included. Returns whether the last address
 // looked at could be formatted; a host that only has loopback addresses leaves the destination empty.
