@@ -2,72 +2,42 @@
 
 #include "InjectionEvents.h"
 #include "OutputSink.h"
-#include "TicketReader.h"
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
 WatermarkOptions psOptionWatermark;
 
-static const char kWMNameTicketKey[] = "com.orvane.dlg.printsettings.WMARKNameTicket";
-static const char kWMARKOptionsTicketKey[] = "com.orvane.dlg.printsettings.WMARKOptionsTicket";
-static const char kWMARKOnlyFirstTicketKey[] = "com.orvane.dlg.printsettings.WMARKOnlyFirstTicket";
-static const char kWMARKTextTicketKey[] = "com.orvane.dlg.printsettings.WMARKTextTicket";
-static const char KWMOrientationTicketKey[] = "com.orvane.dlg.printsettings.WMARKOrientationTicket";
-static const char KWMPaperHeightTicketKey[] = "com.orvane.dlg.printsettings.WMARKPaperHeightTicket";
-static const char KWMPaperWidthTicketKey[] = "com.orvane.dlg.printsettings.WMARKPaperWidthTicket";
-static const char kWMARKFilePathTicketKey[] = "com.orvane.dlg.printsettings.WMARKFilePathTicket";
-static const char kWMARKTypeTicketKey[] = "com.orvane.dlg.printsettings.WMARKTypeTicket";
-static const char kWMARKFontTicketKey[] = "com.orvane.dlg.printsettings.WMARKFontTicket";
-static const char kWMARKFontSizeTicketKey[] = "com.orvane.dlg.printsettings.WMARKFontSizeTicket";
-static const char kWMARKFontTypeTicketKey[] = "com.orvane.dlg.printsettings.WMARKFontTypeTicket";
-static const char kWMARKColorRTicketKey[] = "com.orvane.dlg.printsettings.WMARKColorRTicket";
-static const char kWMARKColorGTicketKey[] = "com.orvane.dlg.printsettings.WMARKColorGTicket";
-static const char kWMARKColorBTicketKey[] = "com.orvane.dlg.printsettings.WMARKColorBTicket";
-static const char kWMARKColorATicketKey[] = "com.orvane.dlg.printsettings.WMARKColorATicket";
-static const char kWMARKAngleTicketKey[] = "com.orvane.dlg.printsettings.WMARKAngleTicket";
-static const char kWMARKDensityTicketKey[] = "com.orvane.dlg.printsettings.WMARKDensityTicket";
-static const char kWMARKScaleTicketKey[] = "com.orvane.dlg.printsettings.WMARKScaleTicket";
-static const char kWMARKPosHorizontalTicketKey[] = "com.orvane.dlg.printsettings.WMARKPosHorizontalTicket";
-static const char kWMARKPosVerticalTicketKey[] = "com.orvane.dlg.printsettings.WMARKPosVerticalTicket";
-static const char KWMARKWidthTicketKey[] = "com.orvane.dlg.printsettings.WMARKWidthTicket";
-static const char KWMARKHeightTicketKey[] = "com.orvane.dlg.printsettings.WMARKHeightTicket";
-static const char KWMARKhOffsetTicketKey[] = "com.orvane.dlg.printsettings.WMARKhOffsetTicket";
-static const char KWMARKvOffsetTicketKey[] = "com.orvane.dlg.printsettings.WMARKvOffsetTicket";
+constexpr WatermarkOptions &option = psOptionWatermark;
 
-static constexpr WatermarkOptions &option = psOptionWatermark;
-static constexpr TicketGetter Integer = GetTicketInteger;
-static constexpr TicketGetter Decimal = GetTicketFloat;
-static constexpr TicketGetter Text = GetTicketStringConvertedToPrtLang;
-
-static const ticketData WatermarkticketData[] = {
-    {kWMNameTicketKey, option.name, sizeof option.name, GetTicketString},
-    {kWMARKOptionsTicketKey, &option.options, sizeof option.options, Integer},
-    {kWMARKOnlyFirstTicketKey, &option.onlyFirstPage, sizeof option.onlyFirstPage, Integer},
-    {kWMARKTextTicketKey, option.text, sizeof option.text, Text},
-    {KWMOrientationTicketKey, &option.orientation, sizeof option.orientation, Integer},
-    {KWMPaperHeightTicketKey, &option.paperHeight, sizeof option.paperHeight, Integer},
-    {KWMPaperWidthTicketKey, &option.paperWidth, sizeof option.paperWidth, Integer},
-    {kWMARKFilePathTicketKey, option.filePath, sizeof option.filePath, Text},
-    {kWMARKTypeTicketKey, &option.type, sizeof option.type, Integer},
-    {kWMARKFontTicketKey, option.font, sizeof option.font, GetTicketString},
-    {kWMARKFontSizeTicketKey, &option.fontSize, sizeof option.fontSize, Integer},
-    {kWMARKFontTypeTicketKey, &option.fontType, sizeof option.fontType, Integer},
-    {kWMARKColorRTicketKey, &option.red, sizeof option.red, Decimal},
-    {kWMARKColorGTicketKey, &option.green, sizeof option.green, Decimal},
-    {kWMARKColorBTicketKey, &option.blue, sizeof option.blue, Decimal},
-    {kWMARKColorATicketKey, &option.alpha, sizeof option.alpha, Decimal},
-    {kWMARKAngleTicketKey, &option.angle, sizeof option.angle, Integer},
-    {kWMARKDensityTicketKey, &option.density, sizeof option.density, Integer},
-    {kWMARKScaleTicketKey, &option.scale, sizeof option.scale, Decimal},
-    {kWMARKPosHorizontalTicketKey, &option.horizontalPosition, sizeof option.horizontalPosition, Decimal},
-    {kWMARKPosVerticalTicketKey, &option.verticalPosition, sizeof option.verticalPosition, Decimal},
-    {KWMARKWidthTicketKey, &option.boxWidth, sizeof option.boxWidth, Decimal},
-    {KWMARKHeightTicketKey, &option.boxHeight, sizeof option.boxHeight, Decimal},
-    {KWMARKhOffsetTicketKey, &option.horizontalOffset, sizeof option.horizontalOffset, Decimal},
-    {KWMARKvOffsetTicketKey, &option.verticalOffset, sizeof option.verticalOffset, Decimal},
+constexpr ticketData tickets[] = {
+    TextTicket(kWMNameTicketKey, option.name, GetTicketString),
+    IntegerTicket(kWMARKOptionsTicketKey, option.options),
+    IntegerTicket(kWMARKOnlyFirstTicketKey, option.onlyFirstPage),
+    TextTicket(kWMARKTextTicketKey, option.text),
+    IntegerTicket(KWMOrientationTicketKey, option.orientation),
+    IntegerTicket(KWMPaperHeightTicketKey, option.paperHeight),
+    IntegerTicket(KWMPaperWidthTicketKey, option.paperWidth),
+    TextTicket(kWMARKFilePathTicketKey, option.filePath),
+    IntegerTicket(kWMARKTypeTicketKey, option.type),
+    TextTicket(kWMARKFontTicketKey, option.font, GetTicketString),
+    IntegerTicket(kWMARKFontSizeTicketKey, option.fontSize),
+    IntegerTicket(kWMARKFontTypeTicketKey, option.fontType),
+    DecimalTicket(kWMARKColorRTicketKey, option.red),
+    DecimalTicket(kWMARKColorGTicketKey, option.green),
+    DecimalTicket(kWMARKColorBTicketKey, option.blue),
+    DecimalTicket(kWMARKColorATicketKey, option.alpha),
+    IntegerTicket(kWMARKAngleTicketKey, option.angle),
+    IntegerTicket(kWMARKDensityTicketKey, option.density),
+    DecimalTicket(kWMARKScaleTicketKey, option.scale),
+    DecimalTicket(kWMARKPosHorizontalTicketKey, option.horizontalPosition),
+    DecimalTicket(kWMARKPosVerticalTicketKey, option.verticalPosition),
+    DecimalTicket(KWMARKWidthTicketKey, option.boxWidth),
+    DecimalTicket(KWMARKHeightTicketKey, option.boxHeight),
+    DecimalTicket(KWMARKhOffsetTicketKey, option.horizontalOffset),
+    DecimalTicket(KWMARKvOffsetTicketKey, option.verticalOffset),
 };
+constinit const TicketTable WatermarkticketData = tickets;
 
 // A block of a text watermark.
 // event: where it stands.
@@ -182,7 +152,10 @@ static void OutputDrawing(FILE *stream)
 
 void WatermarkGetTicketFromPDE(const char *const *argv)
 {
-    GetTicketFromArray(argv, WatermarkticketData, static_cast<int32_t>(std::size(WatermarkticketData)));
+    psOptionWatermark = {};
+    for (TextWatermarkBlock &block : InjectTextWatermark)
+        block.bToPrint = 1;
+    GetTicketFromArray(argv, WatermarkticketData);
 }
 
 static bool IsTextWatermark()

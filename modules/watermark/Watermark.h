@@ -2,9 +2,38 @@
 // The tickets fill one record; the text starts where its turned box has the page's centre in its middle.
 #pragma once
 
+#include "TicketReader.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+
+// The tickets.
+inline constexpr char kWMNameTicketKey[] = "com.orvane.dlg.printsettings.WMARKNameTicket";
+inline constexpr char kWMARKOptionsTicketKey[] = "com.orvane.dlg.printsettings.WMARKOptionsTicket";
+inline constexpr char kWMARKOnlyFirstTicketKey[] = "com.orvane.dlg.printsettings.WMARKOnlyFirstTicket";
+inline constexpr char kWMARKTextTicketKey[] = "com.orvane.dlg.printsettings.WMARKTextTicket";
+inline constexpr char KWMOrientationTicketKey[] = "com.orvane.dlg.printsettings.WMARKOrientationTicket";
+inline constexpr char KWMPaperHeightTicketKey[] = "com.orvane.dlg.printsettings.WMARKPaperHeightTicket";
+inline constexpr char KWMPaperWidthTicketKey[] = "com.orvane.dlg.printsettings.WMARKPaperWidthTicket";
+inline constexpr char kWMARKFilePathTicketKey[] = "com.orvane.dlg.printsettings.WMARKFilePathTicket";
+inline constexpr char kWMARKTypeTicketKey[] = "com.orvane.dlg.printsettings.WMARKTypeTicket";
+inline constexpr char kWMARKFontTicketKey[] = "com.orvane.dlg.printsettings.WMARKFontTicket";
+inline constexpr char kWMARKFontSizeTicketKey[] = "com.orvane.dlg.printsettings.WMARKFontSizeTicket";
+inline constexpr char kWMARKFontTypeTicketKey[] = "com.orvane.dlg.printsettings.WMARKFontTypeTicket";
+inline constexpr char kWMARKColorRTicketKey[] = "com.orvane.dlg.printsettings.WMARKColorRTicket";
+inline constexpr char kWMARKColorGTicketKey[] = "com.orvane.dlg.printsettings.WMARKColorGTicket";
+inline constexpr char kWMARKColorBTicketKey[] = "com.orvane.dlg.printsettings.WMARKColorBTicket";
+inline constexpr char kWMARKColorATicketKey[] = "com.orvane.dlg.printsettings.WMARKColorATicket";
+inline constexpr char kWMARKAngleTicketKey[] = "com.orvane.dlg.printsettings.WMARKAngleTicket";
+inline constexpr char kWMARKDensityTicketKey[] = "com.orvane.dlg.printsettings.WMARKDensityTicket";
+inline constexpr char kWMARKScaleTicketKey[] = "com.orvane.dlg.printsettings.WMARKScaleTicket";
+inline constexpr char kWMARKPosHorizontalTicketKey[] = "com.orvane.dlg.printsettings.WMARKPosHorizontalTicket";
+inline constexpr char kWMARKPosVerticalTicketKey[] = "com.orvane.dlg.printsettings.WMARKPosVerticalTicket";
+inline constexpr char KWMARKWidthTicketKey[] = "com.orvane.dlg.printsettings.WMARKWidthTicket";
+inline constexpr char KWMARKHeightTicketKey[] = "com.orvane.dlg.printsettings.WMARKHeightTicket";
+inline constexpr char KWMARKhOffsetTicketKey[] = "com.orvane.dlg.printsettings.WMARKhOffsetTicket";
+inline constexpr char KWMARKvOffsetTicketKey[] = "com.orvane.dlg.printsettings.WMARKvOffsetTicket";
 
 constexpr size_t kWatermarkTextSize = 256;
 
@@ -38,7 +67,9 @@ struct WatermarkOptions {
 };
 
 extern WatermarkOptions psOptionWatermark;
+extern const TicketTable WatermarkticketData;
 
+// Starts a job: reads the tickets, and every block is to be printed again.
 void WatermarkGetTicketFromPDE(const char *const *argv);
 
 // Whether a block is still to be written at this point of the document.

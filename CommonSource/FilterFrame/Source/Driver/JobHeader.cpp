@@ -13,25 +13,25 @@
 #include <iterator>
 
 // Universal Exit Language; the next line follows on the same line
-static const char prtfmtStrZPJLHead[] = "%c%c-12345X";
-static const void *const cmdParaListZPJLHead[] = {&CTRLSym_ESC, &CTRLSym_PERCENTAGE};
-static CmdParaTable symParaZPJLHead;
+constexpr char prtfmtStrZPJLHead[] = "%c%c-12345X";
+constexpr const void *cmdParaListZPJLHead[] = {&CTRLSym_ESC, &CTRLSym_PERCENTAGE};
+constexpr CmdParaTable symParaZPJLHead = Values(cmdParaListZPJLHead);
 
 // The one header line of its own that ends with CR LF
-static const char prtfmtStrZPJLJobMode[] = "@PJL JOB MODE=PRINTER%c%c";
-static const void *const cmdParaListZPJLJobMode[] = {&CTRLSym_CR, &CTRLSym_LF};
-static CmdParaTable symParaZPJLJobMode;
+constexpr char prtfmtStrZPJLJobMode[] = "@PJL JOB MODE=PRINTER%c%c";
+constexpr const void *cmdParaListZPJLJobMode[] = {CR, LF};
+constexpr CmdParaTable symParaZPJLJobMode = Values(cmdParaListZPJLJobMode);
 
-static const char prtfmtStrEnterPS[] = "@PJL ENTER LANGUAGE=POSTSCRIPT\n";
+constexpr char prtfmtStrEnterPS[] = "@PJL ENTER LANGUAGE=POSTSCRIPT\n";
 
 // CR and LF are declared and not used
-static const char prtfmtStrZPJLTrailer[] = "%c%c-12345X@PJL EOJ\n";
-static const void *const cmdParaListZPJLTrailer[] = {&CTRLSym_ESC, &CTRLSym_PERCENTAGE, &CTRLSym_CR, &CTRLSym_LF};
-static CmdParaTable symParaZPJLTrailer;
+constexpr char prtfmtStrZPJLTrailer[] = "%c%c-12345X@PJL EOJ\n";
+constexpr const void *cmdParaListZPJLTrailer[] = {&CTRLSym_ESC, &CTRLSym_PERCENTAGE, CR, LF};
+constexpr CmdParaTable symParaZPJLTrailer = Values(cmdParaListZPJLTrailer);
 
-const FmtTableRow prtFmtTableZPJLHead[] = {{prtfmtStrZPJLHead, &symParaZPJLHead, nullptr}};
-const FmtTableRow prtFmtTableZPJLJobMode[] = {{prtfmtStrZPJLJobMode, &symParaZPJLJobMode, nullptr}};
-const FmtTableRow prtFmtTableEnterPS[] = {{prtfmtStrEnterPS, nullptr, nullptr}};
+const FmtTableRow prtFmtTableZPJLHead[] = {Command(prtfmtStrZPJLHead, &symParaZPJLHead, nullptr)};
+const FmtTableRow prtFmtTableZPJLJobMode[] = {Command(prtfmtStrZPJLJobMode, &symParaZPJLJobMode, nullptr)};
+const FmtTableRow prtFmtTableEnterPS[] = {Command(prtfmtStrEnterPS, nullptr, nullptr)};
 const FmtTableRow prtFmtTableZPJLTrailer[] = {{prtfmtStrZPJLTrailer, &symParaZPJLTrailer, nullptr}};
 const int32_t numFmtTableZPJLHead = std::size(prtFmtTableZPJLHead);
 const int32_t numFmtTableZPJLJobMode = std::size(prtFmtTableZPJLJobMode);
@@ -40,9 +40,6 @@ const int32_t numFmtTableZPJLTrailer = std::size(prtFmtTableZPJLTrailer);
 
 void InializeDescriptionTable()
 {
-    InitializeCmdParaTable(symParaZPJLHead, cmdParaListZPJLHead);
-    InitializeCmdParaTable(symParaZPJLJobMode, cmdParaListZPJLJobMode);
-    InitializeCmdParaTable(symParaZPJLTrailer, cmdParaListZPJLTrailer);
     InializeDescriptionTableFromFilter();
 }
 

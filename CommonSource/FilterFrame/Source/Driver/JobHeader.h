@@ -14,7 +14,7 @@ extern const int32_t numFmtTableZPJLJobMode;
 extern const int32_t numFmtTableEnterPS;
 extern const int32_t numFmtTableZPJLTrailer;
 
-// Fills the descriptors of the header's own commands, then those of the modules.
+// Puts what modules keep of a job back to its start. The header's own commands keep nothing.
 void InializeDescriptionTable();
 
 // Writes the whole header, up to the switch to PostScript; in spooled mode, that comes after the feature lines.

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstdio>
 
+// Puts the modules' records back to the start of a job. Watermark, perfect binding and comment do it where they read
+// their tickets.
 void InializeDescriptionTableFromFilter();
 
 // Has every module read its tickets; returns 1.

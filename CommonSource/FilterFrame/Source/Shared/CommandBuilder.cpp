@@ -3,15 +3,7 @@
 #include "BoundedText.h"
 
 #include <cstring>
-#include <iterator>
 #include <span>
-
-const CtrlSymEntry ctrlSymTalbe[] = {
-    {"%d", CtrlSym_Dec},
-    {"%c", CtrlSym_Char},
-    {"%s", CtrlSym_String},
-};
-const int32_t CtrlSymNum = static_cast<int32_t>(std::size(ctrlSymTalbe));
 
 static const CtrlSymEntry *FindCtrlSym(const char *pair)
 {

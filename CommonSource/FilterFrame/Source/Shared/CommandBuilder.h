@@ -2,13 +2,18 @@
 // Not printf: three control symbols, everything else in the format is copied as it stands.
 #pragma once
 
-#include "CommandTable.h"
-
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 
 // Size of a command line, of the working copy of its format and of one value, NUL included.
 constexpr size_t kCommandLineSize = 2048;
+
+// Values of one line: one pointer per control symbol, in the order of the symbols.
+struct CmdParaTable {
+    int32_t count;
+    const void *const *list;
+};
 
 enum CtrlSymType : uint32_t { CtrlSym_Dec, CtrlSym_Char, CtrlSym_String };
 
@@ -18,8 +23,12 @@ struct CtrlSymEntry {
     uint32_t type;
 };
 
-extern const CtrlSymEntry ctrlSymTalbe[];
-extern const int32_t CtrlSymNum;
+inline constexpr CtrlSymEntry ctrlSymTalbe[] = {
+    {"%d", CtrlSym_Dec},
+    {"%c", CtrlSym_Char},
+    {"%s", CtrlSym_String},
+};
+inline constexpr int32_t CtrlSymNum = std::size(ctrlSymTalbe);
 
 // Returns 1 when `pair` is a control symbol, else 0.
 int32_t IsCtrlSym(const char *pair);

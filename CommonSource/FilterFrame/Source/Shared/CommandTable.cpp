@@ -1,17 +1,8 @@
 #include "CommandTable.h"
 
-#include "CommandBuilder.h"
 #include "OutputSink.h"
 
 #include <cstring>
-
-const char CTRLSym_ESC = 0x1B;
-const char CTRLSym_PERCENTAGE = '%';
-const char CTRLSym_CR = '\r';
-const char CTRLSym_LF = '\n';
-const char CTRLSym_DOUBLE = '"';
-
-const char OptionNULLStr[1] = "";
 
 static int32_t Integer(const void *argument)
 {
@@ -66,18 +57,6 @@ uint32_t StrIsNULLCampareFunc(const void *arg1, const void *arg2)
 uint32_t StrLengthLessThanCampareFunc(const void *arg1, const void *arg2)
 {
     return static_cast<int64_t>(strlen(Text(arg1))) < Integer(arg2);
-}
-
-void InitializeCmdParaTable(CmdParaTable &table, int32_t count, const void *const *list)
-{
-    table.count = count;
-    table.list = list;
-}
-
-void InitializeComparationTable(ComparationTable &table, int32_t count, const ComparationItem *list)
-{
-    table.count = count;
-    table.list = list;
 }
 
 uint32_t ConditionCompare(const ComparationTable &comparation)

@@ -2,24 +2,24 @@
 // A module lists its rows in output order; the walk prints every row whose conditions all hold.
 #pragma once
 
+#include "CommandBuilder.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
-// Bytes that "%c" parameters point at.
-extern const char CTRLSym_ESC;
-extern const char CTRLSym_PERCENTAGE;
-extern const char CTRLSym_CR;
-extern const char CTRLSym_LF;
-extern const char CTRLSym_DOUBLE;
+// Bytes that "%c" parameters point at, and what points at them in most lines.
+inline constexpr char CTRLSym_ESC = 0x1B;
+inline constexpr char CTRLSym_PERCENTAGE = '%';
+inline constexpr char CTRLSym_CR = '\r';
+inline constexpr char CTRLSym_LF = '\n';
+inline constexpr char CTRLSym_DOUBLE = '"';
+inline constexpr const char *Quote = &CTRLSym_DOUBLE;
+inline constexpr const char *CR = &CTRLSym_CR;
+inline constexpr const char *LF = &CTRLSym_LF;
 
 // Second argument of the tests that have only one.
-extern const char OptionNULLStr[1];
-
-// Values of one line: one pointer per control symbol, in the order of the symbols.
-struct CmdParaTable {
-    int32_t count;
-    const void *const *list;
-};
+inline constexpr char OptionNULLStr[1] = "";
 
 // One condition: 1 when it holds, 0 when it doesn't.
 using CompareFunc = uint32_t (*)(const void *arg1, const void *arg2);
@@ -86,10 +86,19 @@ constexpr ComparationItem ShorterThan(const char *text, const int32_t &limit)
     return {text, &limit, StrLengthLessThanCampareFunc};
 }
 
-void InitializeCmdParaTable(CmdParaTable &table, int32_t count, const void *const *list);
-void InitializeComparationTable(ComparationTable &table, int32_t count, const ComparationItem *list);
+// Point a descriptor at its list.
+constexpr void InitializeCmdParaTable(CmdParaTable &table, int32_t count, const void *const *list)
+{
+    table.count = count;
+    table.list = list;
+}
+constexpr void InitializeComparationTable(ComparationTable &table, int32_t count, const ComparationItem *list)
+{
+    table.count = count;
+    table.list = list;
+}
 
-// The same with the count taken from the array.
+// For tables that are still bound at run time.
 template <size_t N> void InitializeCmdParaTable(CmdParaTable &table, const void *const (&list)[N])
 {
     InitializeCmdParaTable(table, static_cast<int32_t>(N), list);
@@ -97,6 +106,39 @@ template <size_t N> void InitializeCmdParaTable(CmdParaTable &table, const void 
 template <size_t N> void InitializeComparationTable(ComparationTable &table, const ComparationItem (&list)[N])
 {
     InitializeComparationTable(table, static_cast<int32_t>(N), list);
+}
+
+// Descriptors of the lists of a line, for its declaration beside them.
+template <size_t N> constexpr CmdParaTable Values(const void *const (&list)[N])
+{
+    CmdParaTable table{};
+    InitializeCmdParaTable(table, static_cast<int32_t>(N), list);
+    return table;
+}
+template <size_t N> constexpr ComparationTable Conditions(const ComparationItem (&list)[N])
+{
+    ComparationTable table{};
+    InitializeComparationTable(table, static_cast<int32_t>(N), list);
+    return table;
+}
+
+// The number of control symbols in a format.
+consteval int32_t CountCtrlSym(std::string_view format)
+{
+    int32_t count = 0;
+    for (const CtrlSymEntry &entry : ctrlSymTalbe)
+        for (size_t at = format.find(entry.symbol); at != format.npos; at = format.find(entry.symbol, at + 1))
+            count++;
+    return count;
+}
+
+// A row whose format takes every value; one that has more or fewer control symbols than values does not compile. The
+// rows that leave values unused are written without it.
+consteval FmtTableRow Command(const char *format, const CmdParaTable *symPara, const ComparationTable *comparation)
+{
+    if (CountCtrlSym(format) != (symPara ? symPara->count : 0))
+        throw "a command has one value for each control symbol";
+    return {format, symPara, comparation};
 }
 
 // Returns 1 when every condition holds, in order and none evaluated after the first that fails; an empty list holds.

@@ -57,6 +57,8 @@ void ClearJobState()
 {
     for (std::span<char> buffer : jobBuffers)
         std::ranges::fill(buffer, '\0');
+    CancelJob = 0;
+    CancelJobForPipe = 0;
 }
 
 int32_t LayoutCount()

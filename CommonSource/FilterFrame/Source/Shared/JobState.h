@@ -44,7 +44,7 @@ extern const char defaultUserName[12];
 extern volatile sig_atomic_t CancelJob;
 extern volatile sig_atomic_t CancelJobForPipe;
 
-// Empties every buffer above.
+// Empties every buffer above and takes the cancellation back.
 void ClearJobState();
 
 // Pages on one sheet by the layout buffers, rows times columns; a text that is no number counts as 0. The product is

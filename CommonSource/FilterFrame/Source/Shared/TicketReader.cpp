@@ -9,10 +9,6 @@
 #include <cstdlib>
 #include <cstring>
 
-const char kNumberUpTicketKey[] = "number-up";
-const char kLayoutDirectionTicketKey[] = "com.apple.print.PrintSettings.PMLayoutDirection..n.";
-const char kQBPunchHoleTicketKey[] = "OVNumPunchHoles";
-
 // Size of the buffer in which a text is decoded, its NUL included; a longer value is cut.
 constexpr size_t kTicketTextSize = 1024;
 
@@ -41,6 +37,11 @@ int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int
     for (int32_t i = 0; i < count; i++)
         table[i].getter(table[i].key, options.count, options.list, table[i].destination, table[i].size);
     return 1;
+}
+
+int32_t GetTicketFromArray(const char *const *argv, TicketTable table)
+{
+    return GetTicketFromArray(argv, table.data(), static_cast<int32_t>(table.size()));
 }
 
 void numstrtochar(char *text, int32_t size)

@@ -5,7 +5,9 @@
 
 #include <cups/cups.h>
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -24,10 +26,13 @@ struct ticketData {
     TicketGetter getter;
 };
 
+// A module's tickets, in the order in which they are read.
+using TicketTable = std::span<const ticketData>;
+
 // Ticket keys that more than one module reads.
-extern const char kNumberUpTicketKey[];
-extern const char kLayoutDirectionTicketKey[];
-extern const char kQBPunchHoleTicketKey[];
+inline constexpr char kNumberUpTicketKey[] = "number-up";
+inline constexpr char kLayoutDirectionTicketKey[] = "com.apple.print.PrintSettings.PMLayoutDirection..n.";
+inline constexpr char kQBPunchHoleTicketKey[] = "OVNumPunchHoles";
 
 // The job's options (argument 5), parsed once a job.
 struct JobOptions {
@@ -38,6 +43,7 @@ JobOptions OptionsOfJob(const char *const *argv);
 
 // Reads every row, in order; returns 1.
 int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int32_t count);
+int32_t GetTicketFromArray(const char *const *argv, TicketTable table);
 
 // Decodes, in place, a text that is a list of decimal byte values, each preceded by "/"; any other text is left as it
 // is. `size` is the buffer's.
@@ -80,3 +86,19 @@ int32_t GetNumberUpTicketString(const char *key, int32_t optionCount, cups_optio
                                 int32_t size);
 int32_t GetNumberUpTicketStringForComment(const char *key, int32_t optionCount, cups_option_t *options,
                                           void *destination, int32_t size);
+
+// Makers of rows; the size is the field's.
+constexpr ticketData IntegerTicket(const char *key, int32_t &field, TicketGetter getter = GetTicketInteger)
+{
+    return {key, &field, sizeof field, getter};
+}
+constexpr ticketData DecimalTicket(const char *key, float &field)
+{
+    return {key, &field, sizeof field, GetTicketFloat};
+}
+template <size_t N>
+constexpr ticketData TextTicket(const char *key, char (&field)[N],
+                                TicketGetter getter = GetTicketStringConvertedToPrtLang)
+{
+    return {key, field, N, getter};
+}
