@@ -6,24 +6,20 @@
 
 #include <algorithm>
 #include <random>
-#include <set>
 #include <thread>
 #include <unistd.h>
 
 // A reading: what was written, lines of interest between < and >, then a NUL and the bytes behind the last line end.
 
 static const PSWatch watch = {"%%BeginFeature:", {"TSCR", "TCPR"}};
-static const std::set<std::string> markers = {
-    "%%BeginProlog", "%%EndProlog", "%%EndSetup", "userdict/setpagedevice{pop}bind put", "bp", "%%EndPageSetup", "ep",
-    "endp",          "showpage"};
 
 static std::string ReadByteWise(const std::string &document)
 {
     std::string text, line;
     for (const char byte : document) {
         if (byte == '\r' || byte == '\n') {
-            const bool ofInterest = markers.contains(line) || line.starts_with(watch.prefix) ||
-                                    line.find("TSCR") != line.npos || line.find("TCPR") != line.npos;
+            const bool ofInterest =
+                line.find_first_of("%besu") == 0 || line.find("TSCR") != line.npos || line.find("TCPR") != line.npos;
             text.append(ofInterest ? "<" : "").append(line).append(ofInterest ? ">" : "") += byte;
             line.clear();
         } else if ((line += byte).size() == 8065) {

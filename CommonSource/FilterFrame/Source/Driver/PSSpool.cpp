@@ -4,6 +4,7 @@
 #include "FeatureCommands.h"
 #include "JobHeader.h"
 #include "JobState.h"
+#include "LineScan.h"
 #include "OutputSink.h"
 #include "PSDocument.h"
 
@@ -28,6 +29,7 @@ static constexpr char featurePrefix[] = "%%BeginFeature:";
 static constexpr std::string_view screenWords[] = {"TSCR", "GSCR", "ISCR", "TTRC", "GTRC", "ITRC"};
 static constexpr std::string_view curveWords[] = {"TCPR", "GCPR", "ICPR"};
 static constexpr PSWatch featureWatch = {featurePrefix, {screenWords[0], curveWords[0]}};
+static_assert(CanBeMarker(featurePrefix[0]), "the line reader would pass over the feature lines");
 static_assert(screenWords[0].front() == curveWords[0].front() && screenWords[0].back() == curveWords[0].back());
 
 // The resolution that each choice of the output mode asks for, and its line.
@@ -164,7 +166,7 @@ static FILE *CreateSpoolFile()
     return spool;
 }
 
-// Of the bytes behind the last line end only the last is kept; the document then ends with one 0x04.
+// Of the bytes after the last line end only the last is kept; the document then ends with one 0x04.
 static void EndSpooledDocument(const PSLineReader &reader, FILE *spool)
 {
     if (!CurrentPSLine(reader).empty())
@@ -176,7 +178,7 @@ static void EndSpooledDocument(const PSLineReader &reader, FILE *spool)
 // Copies the document into the spool file. Returns whether all of it is there.
 static bool SpoolDocument(int in, const char *const *argv)
 {
-    // Kept beyond a cancelled job, whose spool file is left as it is.
+    // A cancelled job leaves the spool file open and in its place: a static stream is no leak.
     static FILE *spool;
     spool = CreateSpoolFile();
     if (!spool)
@@ -210,7 +212,7 @@ static void CopySpooledDocument(int spool)
     while (!CancelJob && SkipPSBlock(reader))
         continue;
     while (NextPSLine(reader)) {
-        if (!(reader.marker->rules & kPageEnd))
+        if (!IsPSPageEnd(CurrentPSLine(reader)))
             continue;
         WriteThroughPSLine(reader);
         if (CancelJob)

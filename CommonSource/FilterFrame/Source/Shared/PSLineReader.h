@@ -1,10 +1,9 @@
-// PSLineReader: the lines of a PostScript document, the marker lines among them, and their copy to the way out.
+// PSLineReader: the lines of a PostScript document, those among them that may be of interest, and the way out of all.
 // Reads large blocks and writes them as they lie; the rules are those of a byte-wise reader with an 8192-byte line
 // buffer.
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <cstdio>
 #include <string_view>
 
@@ -19,28 +18,11 @@ constexpr size_t kPSBlockAlignment = 4096;
 constexpr size_t kPSLineRoom = 2 * kPSBlockAlignment;
 static_assert(kPSLineRoom >= kPSLineLimit);
 
-// Markers ask for these.
-enum PSMarkerRules : uint32_t {
-    kInjectBefore = 1, // inject, then write the line
-    kInjectAfter = 2,  // write the line, then inject
-    kFirstOnly = 4,    // inject at the first such line of the document only
-    kCountPage = 8,    // a page ends: count it before the injection
-    kLogPage = 16,     // and report it; its line goes out with its block
-    kPageEnd = 32,     // a cancelled job ends here, before the line
-};
-
-// text: the whole line; event: what the modules inject at, 0 for none; rules: PSMarkerRules.
-struct PSMarker {
-    std::string_view text;
-    int32_t event;
-    uint32_t rules;
-};
-
 // Length of a watched word.
 constexpr size_t kPSWordLength = 4;
 
-// Lines that are of interest beside the markers: those that begin with the prefix or hold one of the words, whose first
-// and last letters are the same.
+// Lines that are of interest beside the markers: those that begin with the prefix, whose first letter CanBeMarker
+// knows, or hold one of the words, whose first and last letters are the same.
 struct PSWatch {
     std::string_view prefix;
     std::string_view words[2];
@@ -58,23 +40,25 @@ struct PSLineReader {
     const char *written;
     const char *line;
     const char *lineEnd;
-    char *end;              // of the bytes read
-    const char *nextWord;   // the first at or after `line`, or `end`; null when not looked for
-    const PSMarker *marker; // the current line's, or null
-    char last;              // last byte of the input, 0 when it is empty
+    char *end;            // of the bytes read
+    const char *nextWord; // the first at or after `line`, or `end`; null when not looked for
+    char last;            // last byte of the input, 0 when it is empty
 };
 
 void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
                       const PSWatch *watch);
 
-// Moves to the next line that is a marker or watched; the lines on the way go out with their block or, sooner, with one
-// of the write calls. Returns false at the end of the input, with all complete lines written.
+// Moves to the next line that CanBeMarker or is watched; the lines on the way go out with their block or, sooner, with
+// one of the write calls. Returns false at the end of the input, with all complete lines written.
 bool NextPSLine(PSLineReader &reader);
+
+// Whether the current line is watched.
+bool IsWatchedPSLine(const PSLineReader &reader);
 
 // Writes the lines that have been read, unexamined, and reads on. Returns false at the end of the input.
 bool SkipPSBlock(PSLineReader &reader);
 
-// The current line without its end; after NextPSLine returned false, the bytes behind the last line end.
+// The current line without its end; after NextPSLine returned false, the bytes after the last line end.
 std::string_view CurrentPSLine(const PSLineReader &reader);
 
 // Write what lies before the current line, or that and the line with its end.
