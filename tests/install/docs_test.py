@@ -1,15 +1,18 @@
 """The table of tickets, the manual page, the sample queues and the filter name the same options, attributes and choices.
 
-usage: docs_test.py WHAT-IS-READ TICKETS MANUAL PPD...
+usage: docs_test.py WHAT-IS-READ ORVANE-JOB SOURCES TICKETS MANUAL PPD...
 """
 
 import re
 import subprocess
 import sys
 import unittest
+from pathlib import Path
 
-READ, TICKETS, MANUAL, *PPDS = sys.argv[1:]
+READ, TOOL, SOURCES, TICKETS, MANUAL, *PPDS = sys.argv[1:]
 ATTRIBUTES = "PPD attributes"
+# What the sources have in quotes that has the form of an attribute's name and is none.
+VALUES = {"AUTO", "BLUE", "BUFF", "COIL", "FACE", "FOUR", "GRAY", "HMAC", "LEFT", "NONE", "PINK", "SRGB"}
 
 
 def contents(path):
@@ -75,6 +78,26 @@ class Docs(unittest.TestCase):
             self.assertIn(value, quoted(self.table[keyword][1]), keyword)
             self.assertIn(re.search("[^ @]*=(?=[^=]*$)", command)[0], self.table[keyword][2], keyword)
         self.assertLessEqual(set(self.read["binding"]), everywhere)
+
+    def test_tool_explains_every_line_of_the_tables(self):
+        features = [feature.split(" ", 2)[2] for feature in self.read["feature"]]
+        job = "\x1b%-12345X@PJL JOB MODE=PRINTER\r\n" + "\n".join(self.read["line"] + features) + "\n"
+        done = subprocess.run([TOOL, "show", "--check"], input=job, capture_output=True, text=True)
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+        self.assertGreater(len(self.read["line"]), 100)
+
+    def test_lines_have_the_names_that_the_sources_have(self):
+        """Also those of the writers that build their lines directly."""
+        lines = contents(SOURCES + "/docs/lines.md")
+        names = set(re.findall(r"^\| `(@?[A-Z ]+)", lines, re.M))
+        sources = "".join(contents(path) for folder in ("modules", "CommonSource") for path in
+                          sorted(Path(SOURCES, folder).rglob("*.cpp")))
+        written = {"@" + name for name in re.findall(r"@([A-Z]{4})=", sources)}
+        written |= {"@" + name for name in re.findall('"([A-Z]{4})"', sources) if name not in VALUES}
+        written |= set(re.findall("@PJL SET ([A-Z]+)=", sources)) - {"JOBATTR"}
+        written |= set(re.findall("PRINTJOBINFO ([A-Z]+)", sources))
+        written |= {name for name in ("JOB MODE", "ENTER LANGUAGE", "EOJ") if "@PJL " + name in sources}
+        self.assertEqual(names, written)
 
 
 if __name__ == "__main__":

@@ -19,6 +19,7 @@ from pathlib import Path
 FILTER, COPYING_FILTER = sys.argv[1:3]
 SAMPLES, DATA = map(Path, sys.argv[3:5])
 PRIVATE_KEY = DATA / "keys" / "development-2048.pem"
+EXPLAIN = os.environ.get("ORVANE_JOB")  # the tool, which must know every line
 PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
             b'*LanguageEncoding: ISOLatin1\n')
 TICKET = b"com.orvane.dlg.printsettings."
@@ -111,6 +112,9 @@ class Jobs(unittest.TestCase):
                 arguments[-1].write_bytes(case[b"file"])
         job = self.run_filter(*arguments, document=case[b"document"], ppd=None if case[b"ppd"] == b"none" else path)
 
+        if EXPLAIN:
+            shown = subprocess.run([EXPLAIN, "show", "--check"], input=job.stdout, capture_output=True)
+            self.assertEqual((shown.returncode, shown.stdout, shown.stderr), (0, b"", b""))
         expected = case[b"output"] if b"output" in case else case[b"header"] + case[b"document"] + lines[b"trailer"]
         sent_of_name = 32 if b"STRINGCODESET=UTF8" in expected else 96
         expected = bytes(expected).replace(b"{host}", socket.gethostname().encode()[:sent_of_name])

@@ -1,0 +1,240 @@
+#include "Report.h"
+
+#include "Readable.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <span>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+static constexpr size_t kBriefWidth = 28;
+static constexpr size_t kWordsAt = kBriefWidth + 6;
+static constexpr size_t kLeastWidth = kWordsAt + 20;
+static constexpr size_t kLongestText = 400;
+static constexpr size_t kMaxRemarks = 25;
+
+Paper PaperOfStandardOutput()
+{
+    Paper paper;
+    if (!isatty(STDOUT_FILENO))
+        return paper;
+    struct winsize size = {};
+    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0)
+        paper.width = size.ws_col;
+    const char *terminal = getenv("TERM");
+    const char *noColour = getenv("NO_COLOR");
+    paper.hasColour = terminal && std::string_view(terminal) != "dumb" && !(noColour && *noColour);
+    return paper;
+}
+
+static void PrintColoured(const Paper &paper, const char *colour, std::string_view text)
+{
+    const int length = static_cast<int>(text.size());
+    if (paper.hasColour)
+        printf("\x1b[%sm%.*s\x1b[m", colour, length, text.data());
+    else
+        printf("%.*s", length, text.data());
+}
+
+static bool BeginsCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
+static size_t Columns(std::string_view text)
+{
+    return static_cast<size_t>(std::ranges::count_if(text, BeginsCharacter));
+}
+
+static std::string Shortened(std::string_view text, size_t columns)
+{
+    if (Columns(text) <= columns)
+        return std::string(text);
+    size_t length = 0;
+    for (size_t seen = 0; seen + 3 <= columns; length++)
+        seen += BeginsCharacter(text[length]);
+    while (length > 0 && !BeginsCharacter(text[length]))
+        length--;
+    return std::string(text.substr(0, length > 0 ? length - 1 : 0)) + "...";
+}
+
+// Lines break at blanks; a word that is longer than the line stays in one piece.
+static void PrintWrapped(const Paper &paper, std::string_view text, size_t column)
+{
+    const size_t begin = column;
+    const size_t width = paper.width ? std::max(paper.width, kLeastWidth) : 0;
+    while (!text.empty()) {
+        const size_t length = std::min(text.find(' '), text.size());
+        const std::string_view word = text.substr(0, length);
+        if (width && column > begin && column + 1 + Columns(word) > width) {
+            printf("\n%*s", static_cast<int>(begin), "");
+            column = begin;
+        } else if (column > begin) {
+            putchar(' ');
+            column++;
+        }
+        printf("%.*s", static_cast<int>(word.size()), word.data());
+        column += Columns(word);
+        text.remove_prefix(std::min(length + 1, text.size()));
+    }
+    putchar('\n');
+}
+
+void PrintHeading(const Paper &paper, std::string_view text)
+{
+    putchar('\n');
+    PrintColoured(paper, "1", text);
+    putchar('\n');
+}
+
+void PrintEntry(const Paper &paper, char mark, std::string_view brief, std::string_view words)
+{
+    const std::string shortBrief = Shortened(brief, kBriefWidth);
+    printf("%c ", mark);
+    PrintColoured(paper, mark == '!' ? "33" : "36", shortBrief);
+    printf("%*s", static_cast<int>(kWordsAt - 2 - Columns(shortBrief)), "");
+    PrintWrapped(paper, Shortened(words, kLongestText), kWordsAt);
+}
+
+static void PrintRemarks(const Paper &paper, const std::vector<std::string> &remarks)
+{
+    if (remarks.empty())
+        return;
+    PrintHeading(paper, "Worth a look");
+    for (const std::string &remark : std::span(remarks).first(std::min(remarks.size(), kMaxRemarks))) {
+        PrintColoured(paper, "1;33", "! ");
+        PrintWrapped(paper, Shortened(remark, kLongestText), 2);
+    }
+    if (remarks.size() > kMaxRemarks)
+        printf("  and %zu more\n", remarks.size() - kMaxRemarks);
+}
+
+static void PrintGroup(const Paper &paper, const std::string &group, const Explanation &explanation)
+{
+    bool isFirst = true;
+    for (const ExplainedLine &line : explanation.lines) {
+        if (line.group != group)
+            continue;
+        if (isFirst)
+            PrintHeading(paper, group.empty() ? "Not explained" : group);
+        isFirst = false;
+        const bool isMarked = line.remarkable || !line.known || !line.trouble.empty();
+        PrintEntry(paper, isMarked ? '!' : ' ', line.brief, line.trouble.empty() ? line.words : line.trouble);
+    }
+}
+
+static void PrintFacts(const Paper &paper, const DocumentFacts &facts)
+{
+    PrintHeading(paper, "Document");
+    for (const auto &[name, text] : FactsInWords(facts))
+        PrintEntry(paper, ' ', name, Readable(text, true));
+}
+
+void PrintExplanation(const Paper &paper, const std::string &name, const Explanation &explanation)
+{
+    const Job &job = explanation.job;
+    PrintColoured(paper, "1", Readable(name, true));
+    printf(": %s, %llu bytes\n", explanation.whole ? "a whole job" : "not a whole job of this filter",
+           static_cast<unsigned long long>(job.bytes));
+    PrintRemarks(paper, explanation.remarks);
+    PrintGroup(paper, "", explanation);
+    const std::string *last = nullptr;
+    for (const LineMeaning &row : LineMeanings()) {
+        if (last && *last == row.group)
+            continue;
+        last = &row.group;
+        PrintGroup(paper, row.group, explanation);
+    }
+    if (job.entered || job.document.bytes)
+        PrintFacts(paper, job.document);
+}
+
+void PrintJSON(const std::string &name, const Explanation &explanation)
+{
+    const auto boolean = [](bool value) { return value ? "true" : "false"; };
+    const auto list = [](const auto &items, auto print) {
+        const char *separator = "\n    ";
+        for (const auto &item : items) {
+            fputs(separator, stdout);
+            print(item);
+            separator = ",\n    ";
+        }
+    };
+    const auto string = [](const std::string &readable) { return JSONString(readable); };
+    printf("{\n  \"job\": %s,\n  \"bytes\": %llu,\n  \"whole\": %s,\n  \"remarks\": [",
+           string(Readable(name, true)).c_str(), static_cast<unsigned long long>(explanation.job.bytes),
+           boolean(explanation.whole));
+    list(explanation.remarks, [&](const std::string &remark) { fputs(string(remark).c_str(), stdout); });
+    printf("],\n  \"lines\": [");
+    list(explanation.lines, [&](const ExplainedLine &line) {
+        printf("{\"offset\": %llu, \"group\": %s, \"line\": %s, \"meaning\": %s, \"trouble\": %s, \"known\": %s}",
+               static_cast<unsigned long long>(line.offset), string(line.group).c_str(), string(line.brief).c_str(),
+               string(line.words).c_str(), string(line.trouble).c_str(), boolean(line.known));
+    });
+    printf("],\n  \"document\": [");
+    list(FactsInWords(explanation.job.document), [&](const std::pair<std::string, std::string> &fact) {
+        printf("[%s, %s]", string(fact.first).c_str(), string(Readable(fact.second, true)).c_str());
+    });
+    printf("]\n}\n");
+}
+
+// What makes a line the same as another's: passwords differ by chance from job to job.
+static std::string Sense(const ExplainedLine &line)
+{
+    return line.secret.empty() ? line.brief : line.name + " " + line.secret;
+}
+
+// The lines of `one` that `other` has not, each as often as it is missing.
+static std::vector<const ExplainedLine *> Missing(const Explanation &one, const Explanation &other)
+{
+    std::vector<std::string> there;
+    for (const ExplainedLine &line : other.lines)
+        there.push_back(line.group + Sense(line));
+    std::vector<const ExplainedLine *> missing;
+    for (const ExplainedLine &line : one.lines) {
+        const auto found = std::ranges::find(there, line.group + Sense(line));
+        if (found == there.end())
+            missing.push_back(&line);
+        else
+            there.erase(found);
+    }
+    return missing;
+}
+
+static size_t PrintOneSide(const Paper &paper, char mark, const Explanation &one, const Explanation &other)
+{
+    size_t count = 0;
+    for (const ExplainedLine *line : Missing(one, other)) {
+        PrintEntry(paper, mark, line->brief, line->trouble.empty() ? line->words : line->trouble);
+        count++;
+    }
+    const auto facts = FactsInWords(one.job.document);
+    const auto otherFacts = FactsInWords(other.job.document);
+    for (const auto &fact : facts) {
+        if (std::ranges::find(otherFacts, fact) != otherFacts.end())
+            continue;
+        PrintEntry(paper, mark, "document: " + fact.first, Readable(fact.second, true));
+        count++;
+    }
+    return count;
+}
+
+bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanation &other)
+{
+    size_t count = PrintOneSide(paper, '<', one, other) + PrintOneSide(paper, '>', other, one);
+    if (one.job.document.digest != other.job.document.digest) {
+        puts("The documents differ.");
+        count++;
+    }
+    if (one.whole != other.whole) {
+        printf("Only the %s job is whole.\n", one.whole ? "first" : "second");
+        count++;
+    }
+    if (count == 0 && std::ranges::any_of(one.lines, [](const ExplainedLine &line) { return !line.secret.empty(); }))
+        puts("The jobs say the same; without --key, passwords are compared by their length only.");
+    else if (count == 0)
+        puts("The jobs say the same.");
+    return count != 0;
+}

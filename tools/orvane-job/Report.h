@@ -1,0 +1,27 @@
+// Report: explanations as people and scripts read them, on standard output.
+#pragma once
+
+#include "Explanation.h"
+
+#include <string>
+#include <string_view>
+
+// How the terminal takes text. width: its columns, 0 for lines of any length.
+struct Paper {
+    bool hasColour = false;
+    size_t width = 0;
+};
+
+// The standard output's; plain when it is no terminal.
+Paper PaperOfStandardOutput();
+
+// One entry: a short form, and what it means, wrapped behind it. mark: '!' for what is worth a look, else ' ', '<',
+// '>'.
+void PrintEntry(const Paper &paper, char mark, std::string_view brief, std::string_view words);
+void PrintHeading(const Paper &paper, std::string_view text);
+
+void PrintExplanation(const Paper &paper, const std::string &name, const Explanation &explanation);
+void PrintJSON(const std::string &name, const Explanation &explanation);
+
+// Says what differs between two jobs. Returns whether anything does.
+bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanation &other);
