@@ -3,10 +3,39 @@
 #pragma once
 
 #include "CommandTable.h"
+#include "TicketReader.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+
+// The tickets.
+inline constexpr char kTabMarginCheckBoxTicketKey[] = "com.orvane.dlg.printsettings.TabMarginSwitchTicket";
+inline constexpr char kTrimmerCheckBoxTicketKey[] = "com.orvane.dlg.printsettings.TrimmerSwitchTicket";
+inline constexpr char kTrimmerPopupTicketKey[] = "com.orvane.dlg.printsettings.TrimmerSelectTicket";
+inline constexpr char kBookletMarginCheckBoxTicketKey[] = "com.orvane.dlg.printsettings.BookletMarginSwitchTicket";
+inline constexpr char kTabMarginShiftTicketKey[] = "com.orvane.dlg.printsettings.TabMarginMMShiftTicket";
+inline constexpr char kTrimmerCuttingSizeTicketKey[] = "com.orvane.dlg.printsettings.TrimmerMMCuttingSizeTicket";
+inline constexpr char kTrimmerWidthMMSizeTicketKey[] = "com.orvane.dlg.printsettings.TrimmerWidthMMSizeTicket";
+inline constexpr char kTrimmerHeightMMSizeTicketKey[] = "com.orvane.dlg.printsettings.TrimmerHeightMMSizeTicket";
+inline constexpr char kTrimmerAdjustMMSizeTicketKey[] = "com.orvane.dlg.printsettings.TrimmerAdjustMMSizeTicket";
+inline constexpr char KNumInSequenceCheckBoxTicketKey[] = "com.orvane.dlg.printsettings.NumInSequenceSwitchTicket";
+inline constexpr char KNumInSequenceLittleArrowTicketKey[] = "com.orvane.dlg.printsettings.NumInSequenceLArrowTicket";
+inline constexpr char KOffsetStackingListTicketKey[] = "com.orvane.dlg.printsettings.OffsetStackingListTicket";
+inline constexpr char KOffsetStackingPagesLittleArrowTicketKey[] =
+    "com.orvane.dlg.printsettings.OffsetStackingPagesLArrowTicket";
+inline constexpr char KOffsetStackingUnitsLittleArrowTicketKey[] =
+    "com.orvane.dlg.printsettings.OffsetStackingUnitsLArrowTicket";
+inline constexpr char kSeparatorPagesListTicketKey[] = "com.orvane.dlg.printsettings.SeparatorPageListTicket";
+inline constexpr char kSeparatorPagesTicketKey[] = "com.orvane.dlg.printsettings.SeparatorPageTicket";
+inline constexpr char kAutoFitCheckBoxTicketKey[] = "com.orvane.dlg.printsettings.AutoFitSwitchTicket";
+inline constexpr char kBookletMarginEditTextTicketKey[] = "com.orvane.dlg.printsettings.BookletMarginMMShiftTicket";
+inline constexpr char KEjectOptionsListTicketKey[] = "com.orvane.dlg.printsettings.EjectOptionsListTicket";
+inline constexpr char kQBPunchHoleMediaTypeSize[] = "media"; // the standard option: size and type words
+inline constexpr char KSPWhetherMediaSizeA5Key[] = "com.orvane.dlg.printsettings.whetherMediaSizeA5Ticket";
+inline constexpr char KPFWhetherMediaTypeTabKey[] = "com.orvane.dlg.printsettings.featuresMediaTypeTabTicket";
+inline constexpr char kCoilPunchFaceTicketKey[] = "com.orvane.dlg.printsettings.CoilPunchFaceTicket";
+inline constexpr char KSPWhetherMediaTypeTabKey[] = "com.orvane.dlg.printsettings.whetherMediaTypeTabTicket";
 
 // What the whole-number fields hold; -1 is an absent ticket.
 inline constexpr int32_t OptionTabMarginNone = 0;
@@ -82,20 +111,20 @@ struct FeaturesOptions {
 
 extern FeaturesOptions zpjlOptionFeatures;
 
+extern const TicketTable FeaturesticketData;
+
 extern const FmtTableRow FeaturesFmtTable[];
 extern const int32_t FeaturesFmtTableNum;
 
-// Binds the rows' values and conditions; once, before the first output.
+// Puts the record back to the start of a job.
 void FeaturesInializeDescriptionTableFromFilter();
-void FeaturesInitializeCmdParaTable();
-void FeaturesInitialzieComparationTable();
 
 void FeaturesGetTicketFromPDE(const char *const *argv);
 
 // Writes the PJL lines that the tickets ask for.
 void FeaturesOutputZPJLCommandFromFilter(const char *const *argv);
 
-// Whether fragments may belong to this point of the document.
+// Whether fragments may belong to this point of the document. They are written only where their tickets ask for them.
 bool FeaturesHasPSCommandFromFilter(int32_t event);
 
 // Writes the fragments that belong to this point of the document: without N-up the separator pages at the end of the

@@ -5,6 +5,8 @@
 #include "JobState.h"
 #include "OutputSink.h"
 
+#include <algorithm>
+
 static const char autoScaleOff[] =
     "/Custom/ProcSet findresource/setsignatureautoscale 2 copy known {get false exch exec} {pop pop} ifelse\n";
 static const char autoScaleOn[] =
@@ -47,19 +49,35 @@ void FeaturesOutputAutoFit(FILE *stream)
         OutputFragment(autoFit == OptionAutoFitNone ? autoScaleOff : autoScaleOn, stream);
 }
 
+// event: where the fragment stands in documents of one page a sheet, or of several when `nUp` is true.
+// output: writes it, when its tickets ask for it.
+struct FeaturesFragment {
+    int32_t event;
+    bool nUp;
+    void (*output)(FILE *stream);
+};
+static const FeaturesFragment fragments[] = {
+    {kEventEndProlog, false, FeaturesOutputSeparatorPages},
+    {kEventEndSetup, false, FeaturesOutputAutoFit},
+    {kEventNoPageDevice, true, FeaturesOutputSeparatorPages},
+    {kEventNoPageDevice, true, FeaturesOutputAutoFit},
+};
+
+static bool IsDue(const FeaturesFragment &fragment, int32_t event)
+{
+    const int32_t pagesPerSheet = LayoutCount();
+    const bool fits = fragment.nUp ? pagesPerSheet >= 2 : pagesPerSheet == 0 || pagesPerSheet == 1;
+    return fragment.event == event && fits;
+}
+
 bool FeaturesHasPSCommandFromFilter(int32_t event)
 {
-    return event == kEventEndProlog || event == kEventEndSetup || event == kEventNoPageDevice;
+    return std::ranges::any_of(fragments, [event](const FeaturesFragment &fragment) { return IsDue(fragment, event); });
 }
 
 void FeaturesOutputPSCommandFromFilter(int32_t event, FILE *stream)
 {
-    const int32_t pagesPerSheet = LayoutCount();
-    const bool single = pagesPerSheet == 0 || pagesPerSheet == 1;
-    const bool nUpPoint = event == kEventNoPageDevice && pagesPerSheet >= 2;
-
-    if (nUpPoint || (event == kEventEndProlog && single))
-        FeaturesOutputSeparatorPages(stream);
-    if (nUpPoint || (event == kEventEndSetup && single))
-        FeaturesOutputAutoFit(stream);
+    for (const FeaturesFragment &fragment : fragments)
+        if (IsDue(fragment, event))
+            fragment.output(stream);
 }

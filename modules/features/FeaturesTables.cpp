@@ -1,327 +1,290 @@
+// The lines of the finishing features, in output order, and the module's tickets.
 #include "Features.h"
 
 #include <iterator>
 
 static constexpr FeaturesOptions &option = zpjlOptionFeatures;
 
+constexpr ticketData tickets[] = {
+    IntegerTicket(kTabMarginCheckBoxTicketKey, option.tabMargin),
+    IntegerTicket(kTrimmerCheckBoxTicketKey, option.trimmer),
+    IntegerTicket(kTrimmerPopupTicketKey, option.trimmerSelect),
+    IntegerTicket(kBookletMarginCheckBoxTicketKey, option.bookletMargin),
+    TextTicket(kTabMarginShiftTicketKey, option.tabMarginShift),
+    TextTicket(kTrimmerCuttingSizeTicketKey, option.trimmerCuttingSize),
+    TextTicket(kTrimmerWidthMMSizeTicketKey, option.trimmerWidthSize),
+    TextTicket(kTrimmerHeightMMSizeTicketKey, option.trimmerHeightSize),
+    TextTicket(kTrimmerAdjustMMSizeTicketKey, option.trimmerAdjustSize),
+    IntegerTicket(KNumInSequenceCheckBoxTicketKey, option.numInSequence),
+    TextTicket(KNumInSequenceLittleArrowTicketKey, option.numInSequenceStart),
+    IntegerTicket(KOffsetStackingListTicketKey, option.offsetStacking),
+    TextTicket(KOffsetStackingPagesLittleArrowTicketKey, option.offsetStackingPages),
+    TextTicket(KOffsetStackingUnitsLittleArrowTicketKey, option.offsetStackingUnits),
+    IntegerTicket(kSeparatorPagesListTicketKey, option.separatorPagesList),
+    TextTicket(kSeparatorPagesTicketKey, option.separatorPages),
+    IntegerTicket(kAutoFitCheckBoxTicketKey, option.autoFit),
+    TextTicket(kBookletMarginEditTextTicketKey, option.bookletMarginShift),
+    IntegerTicket(KEjectOptionsListTicketKey, option.ejectOptions),
+    TextTicket(kQBPunchHoleMediaTypeSize, option.media),
+    IntegerTicket(KSPWhetherMediaSizeA5Key, option.specialPagesA5),
+    TextTicket(kQBPunchHoleTicketKey, option.punchHoles),
+    TextTicket(KPFWhetherMediaTypeTabKey, option.mediaTab),
+    TextTicket(kCoilPunchFaceTicketKey, option.coilPunchFace),
+    IntegerTicket(KSPWhetherMediaTypeTabKey, option.specialPagesTab),
+};
+constinit const TicketTable FeaturesticketData = tickets;
+
 // Conditions that many rows share.
-static constexpr ComparationItem TrimmerCuts = Equal(option.trimmerSelect, SelectTrimmer);
-static constexpr ComparationItem TrimmerCutsTopLower = Equal(option.trimmerSelect, SelectTrimmerTopLower);
-static constexpr ComparationItem OffsetByPages = Equal(option.offsetStacking, OptionOffsetStackingEndOfSetPage);
-static constexpr ComparationItem OffsetByCopies = Equal(option.offsetStacking, OptionOffsetStackingEndOfSetCopy);
-static constexpr ComparationItem EjectOff = Equal(option.ejectOptions, EjectOptionsOff);
-static constexpr ComparationItem CoilPunch = Contains(option.punchHoles, punchHoleCoil);
-static constexpr ComparationItem NoCoilPunch = Lacks(option.punchHoles, punchHoleCoil);
-static constexpr ComparationItem CoilFaceOn = Is(option.coilPunchFace, coilPunchFaceOn);
-static constexpr ComparationItem CoilFaceOff = Is(option.coilPunchFace, coilPunchFaceOff);
-static constexpr ComparationItem TabMedia = Is(option.mediaTab, mediaTypeIsTab);
-static constexpr ComparationItem NoTabMedia = Is(option.mediaTab, mediaTypeNoTab);
-static constexpr ComparationItem SpecialPagesTab = Equal(option.specialPagesTab, specialPagesMediaTab);
-static constexpr ComparationItem NoSpecialPagesTab = Equal(option.specialPagesTab, specialPagesMediaNoTab);
-static constexpr ComparationItem A5Media = Contains(option.media, mediaTypeA5);
-static constexpr ComparationItem NoA5Media = Lacks(option.media, mediaTypeA5);
-static constexpr ComparationItem SpecialPagesA5 = Equal(option.specialPagesA5, specialPagesMediasizeA5);
-static constexpr ComparationItem NoSpecialPagesA5 = Equal(option.specialPagesA5, specialPagesMediasizeNoA5);
+constexpr ComparationItem TrimmerCuts = Equal(option.trimmerSelect, SelectTrimmer);
+constexpr ComparationItem TrimmerCutsTopLower = Equal(option.trimmerSelect, SelectTrimmerTopLower);
+constexpr ComparationItem OffsetByPages = Equal(option.offsetStacking, OptionOffsetStackingEndOfSetPage);
+constexpr ComparationItem OffsetByCopies = Equal(option.offsetStacking, OptionOffsetStackingEndOfSetCopy);
+constexpr ComparationItem EjectOff = Equal(option.ejectOptions, EjectOptionsOff);
+constexpr ComparationItem CoilPunch = Contains(option.punchHoles, punchHoleCoil);
+constexpr ComparationItem NoCoilPunch = Lacks(option.punchHoles, punchHoleCoil);
+constexpr ComparationItem CoilFaceOn = Is(option.coilPunchFace, coilPunchFaceOn);
+constexpr ComparationItem CoilFaceOff = Is(option.coilPunchFace, coilPunchFaceOff);
+constexpr ComparationItem TabMedia = Is(option.mediaTab, mediaTypeIsTab);
+constexpr ComparationItem NoTabMedia = Is(option.mediaTab, mediaTypeNoTab);
+constexpr ComparationItem SpecialPagesTab = Equal(option.specialPagesTab, specialPagesMediaTab);
+constexpr ComparationItem NoSpecialPagesTab = Equal(option.specialPagesTab, specialPagesMediaNoTab);
+constexpr ComparationItem A5Media = Contains(option.media, mediaTypeA5);
+constexpr ComparationItem NoA5Media = Lacks(option.media, mediaTypeA5);
+constexpr ComparationItem SpecialPagesA5 = Equal(option.specialPagesA5, specialPagesMediasizeA5);
+constexpr ComparationItem NoSpecialPagesA5 = Equal(option.specialPagesA5, specialPagesMediasizeNoA5);
 
 // @TABS: shift of the image on tab paper
-static const char prtfmtStrTabMarginValueNone[] = "@PJL SET JOBATTR=%c@TABS=OFF%c%c";
-static const void *const cmdParaTabMarginValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemTabMarginValueNone[] = {Equal(option.tabMargin, OptionTabMarginNone)};
-static CmdParaTable symParaTabMarginValueNone;
-static ComparationTable comparationParaTabMarginValueNone;
+constexpr char prtfmtStrTabMarginValueNone[] = "@PJL SET JOBATTR=%c@TABS=OFF%c%c";
+constexpr const void *cmdParaTabMarginValueNone[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemTabMarginValueNone[] = {Equal(option.tabMargin, OptionTabMarginNone)};
+constexpr CmdParaTable symParaTabMarginValueNone = Values(cmdParaTabMarginValueNone);
+constexpr ComparationTable comparationParaTabMarginValueNone = Conditions(comparationItemTabMarginValueNone);
 
-static const char prtfmtStrTabMarginValue[] = "@PJL SET JOBATTR=%c@TABS=%s%c%c";
-static const void *const cmdParaTabMarginValue[] = {&CTRLSym_DOUBLE, option.tabMarginShift, &CTRLSym_DOUBLE,
-                                                    &CTRLSym_LF};
-static const ComparationItem comparationItemTabMarginValue[] = {Equal(option.tabMargin, OptionTabMargin)};
-static CmdParaTable symParaTabMarginValue;
-static ComparationTable comparationParaTabMarginValue;
+constexpr char prtfmtStrTabMarginValue[] = "@PJL SET JOBATTR=%c@TABS=%s%c%c";
+constexpr const void *cmdParaTabMarginValue[] = {Quote, option.tabMarginShift, Quote, LF};
+constexpr ComparationItem comparationItemTabMarginValue[] = {Equal(option.tabMargin, OptionTabMargin)};
+constexpr CmdParaTable symParaTabMarginValue = Values(cmdParaTabMarginValue);
+constexpr ComparationTable comparationParaTabMarginValue = Conditions(comparationItemTabMarginValue);
 
 // @TRMR, @TRFW, @TROP: trimmer; the older switch and the newer list each write their own lines
-static const char prtfmtStrTrimmerValueNone[] = "@PJL SET JOBATTR=%c@TRMR=0%c%c";
-static const void *const cmdParaTrimmerValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerValueNone[] = {Equal(option.trimmer, OptionTrimmerNone)};
-static CmdParaTable symParaTrimmerValueNone;
-static ComparationTable comparationParaTrimmerValueNone;
+constexpr char prtfmtStrTrimmerValueNone[] = "@PJL SET JOBATTR=%c@TRMR=0%c%c";
+constexpr const void *cmdParaTrimmerValueNone[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerValueNone[] = {Equal(option.trimmer, OptionTrimmerNone)};
+constexpr CmdParaTable symParaTrimmerValueNone = Values(cmdParaTrimmerValueNone);
+constexpr ComparationTable comparationParaTrimmerValueNone = Conditions(comparationItemTrimmerValueNone);
 
-static const char prtfmtStrTrimmerValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
-static const void *const cmdParaTrimmerValue[] = {&CTRLSym_DOUBLE, option.trimmerCuttingSize, &CTRLSym_DOUBLE,
-                                                  &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerValue[] = {Equal(option.trimmer, OptionTrimmer)};
-static CmdParaTable symParaTrimmerValue;
-static ComparationTable comparationParaTrimmerValue;
+constexpr char prtfmtStrTrimmerValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
+constexpr const void *cmdParaTrimmerValue[] = {Quote, option.trimmerCuttingSize, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerValue[] = {Equal(option.trimmer, OptionTrimmer)};
+constexpr CmdParaTable symParaTrimmerValue = Values(cmdParaTrimmerValue);
+constexpr ComparationTable comparationParaTrimmerValue = Conditions(comparationItemTrimmerValue);
 
-static const char prtfmtStrTrimmerLittleValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
-static const void *const cmdParaTrimmerLittleValue[] = {&CTRLSym_DOUBLE, option.trimmerCuttingSize, &CTRLSym_DOUBLE,
-                                                        &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerLittleValue[] = {TrimmerCuts};
-static CmdParaTable symParaTrimmerLittleValue;
-static ComparationTable comparationParaTrimmerLittleValue;
+constexpr char prtfmtStrTrimmerLittleValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
+constexpr const void *cmdParaTrimmerLittleValue[] = {Quote, option.trimmerCuttingSize, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerLittleValue[] = {TrimmerCuts};
+constexpr CmdParaTable symParaTrimmerLittleValue = Values(cmdParaTrimmerLittleValue);
+constexpr ComparationTable comparationParaTrimmerLittleValue = Conditions(comparationItemTrimmerLittleValue);
 
-static const char prtfmtStrTrimmerWidthValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
-static const void *const cmdParaTrimmerWidthValue[] = {&CTRLSym_DOUBLE, option.trimmerWidthSize, &CTRLSym_DOUBLE,
-                                                       &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerWidthValue[] = {TrimmerCutsTopLower};
-static CmdParaTable symParaTrimmerWidthValue;
-static ComparationTable comparationParaTrimmerWidthValue;
+constexpr char prtfmtStrTrimmerWidthValue[] = "@PJL SET JOBATTR=%c@TRMR=%s%c%c";
+constexpr const void *cmdParaTrimmerWidthValue[] = {Quote, option.trimmerWidthSize, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerWidthValue[] = {TrimmerCutsTopLower};
+constexpr CmdParaTable symParaTrimmerWidthValue = Values(cmdParaTrimmerWidthValue);
+constexpr ComparationTable comparationParaTrimmerWidthValue = Conditions(comparationItemTrimmerWidthValue);
 
-static const char prtfmtStrTrimmerHeightValue[] = "@PJL SET JOBATTR=%c@TRFW=%s%c%c";
-static const void *const cmdParaTrimmerHeightValue[] = {&CTRLSym_DOUBLE, option.trimmerHeightSize, &CTRLSym_DOUBLE,
-                                                        &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerHeightValue[] = {TrimmerCutsTopLower};
-static CmdParaTable symParaTrimmerHeightValue;
-static ComparationTable comparationParaTrimmerHeightValue;
+constexpr char prtfmtStrTrimmerHeightValue[] = "@PJL SET JOBATTR=%c@TRFW=%s%c%c";
+constexpr const void *cmdParaTrimmerHeightValue[] = {Quote, option.trimmerHeightSize, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerHeightValue[] = {TrimmerCutsTopLower};
+constexpr CmdParaTable symParaTrimmerHeightValue = Values(cmdParaTrimmerHeightValue);
+constexpr ComparationTable comparationParaTrimmerHeightValue = Conditions(comparationItemTrimmerHeightValue);
 
-static const char prtfmtStrTrimmerHeightValueNone[] = "@PJL SET JOBATTR=%c@TRFW=0%c%c";
-static const void *const cmdParaTrimmerHeightValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerHeightValueNone[] = {TrimmerCuts};
-static CmdParaTable symParaTrimmerHeightValueNone;
-static ComparationTable comparationParaTrimmerHeightValueNone;
+constexpr char prtfmtStrTrimmerHeightValueNone[] = "@PJL SET JOBATTR=%c@TRFW=0%c%c";
+constexpr const void *cmdParaTrimmerHeightValueNone[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerHeightValueNone[] = {TrimmerCuts};
+constexpr CmdParaTable symParaTrimmerHeightValueNone = Values(cmdParaTrimmerHeightValueNone);
+constexpr ComparationTable comparationParaTrimmerHeightValueNone = Conditions(comparationItemTrimmerHeightValueNone);
 
-static const char prtfmtStrTrimmerAdjustValue[] = "@PJL SET JOBATTR=%c@TROP=%s%c%c";
-static const void *const cmdParaTrimmerAdjustValue[] = {&CTRLSym_DOUBLE, option.trimmerAdjustSize, &CTRLSym_DOUBLE,
-                                                        &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerAdjustValue[] = {TrimmerCutsTopLower};
-static CmdParaTable symParaTrimmerAdjustValue;
-static ComparationTable comparationParaTrimmerAdjustValue;
+constexpr char prtfmtStrTrimmerAdjustValue[] = "@PJL SET JOBATTR=%c@TROP=%s%c%c";
+constexpr const void *cmdParaTrimmerAdjustValue[] = {Quote, option.trimmerAdjustSize, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerAdjustValue[] = {TrimmerCutsTopLower};
+constexpr CmdParaTable symParaTrimmerAdjustValue = Values(cmdParaTrimmerAdjustValue);
+constexpr ComparationTable comparationParaTrimmerAdjustValue = Conditions(comparationItemTrimmerAdjustValue);
 
-static const char prtfmtStrTrimmerAdjustValueNone[] = "@PJL SET JOBATTR=%c@TROP=0%c%c";
-static const void *const cmdParaTrimmerAdjustValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemTrimmerAdjustValueNone[] = {TrimmerCuts};
-static CmdParaTable symParaTrimmerAdjustValueNone;
-static ComparationTable comparationParaTrimmerAdjustValueNone;
+constexpr char prtfmtStrTrimmerAdjustValueNone[] = "@PJL SET JOBATTR=%c@TROP=0%c%c";
+constexpr const void *cmdParaTrimmerAdjustValueNone[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemTrimmerAdjustValueNone[] = {TrimmerCuts};
+constexpr CmdParaTable symParaTrimmerAdjustValueNone = Values(cmdParaTrimmerAdjustValueNone);
+constexpr ComparationTable comparationParaTrimmerAdjustValueNone = Conditions(comparationItemTrimmerAdjustValueNone);
 
 // @MDOC: numbering in sequence
-static const char prtfmtStrNumInSeqValueNone[] = "@PJL SET JOBATTR=%c@MDOC=0%c%c";
-static const void *const cmdParaNumInSeqValueNone[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemNumInSeqValueNone[] = {
-    Equal(option.numInSequence, OptionNumInSequenceNone)};
-static CmdParaTable symParaNumInSequenceValueNone;
-static ComparationTable comparationParaNumInSequenceValueNone;
+constexpr char prtfmtStrNumInSeqValueNone[] = "@PJL SET JOBATTR=%c@MDOC=0%c%c";
+constexpr const void *cmdParaNumInSeqValueNone[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemNumInSeqValueNone[] = {Equal(option.numInSequence, OptionNumInSequenceNone)};
+constexpr CmdParaTable symParaNumInSequenceValueNone = Values(cmdParaNumInSeqValueNone);
+constexpr ComparationTable comparationParaNumInSequenceValueNone = Conditions(comparationItemNumInSeqValueNone);
 
-static const char prtfmtStrNumInSeqValue[] = "@PJL SET JOBATTR=%c@MDOC=%s%c%c";
-static const void *const cmdParaNumInSeqValue[] = {&CTRLSym_DOUBLE, option.numInSequenceStart, &CTRLSym_DOUBLE,
-                                                   &CTRLSym_LF};
-static const ComparationItem comparationItemNumInSeqValue[] = {Equal(option.numInSequence, OptionNumInSequence)};
-static CmdParaTable symParaNumInSequenceValue;
-static ComparationTable comparationParaNumInSequenceValue;
+constexpr char prtfmtStrNumInSeqValue[] = "@PJL SET JOBATTR=%c@MDOC=%s%c%c";
+constexpr const void *cmdParaNumInSeqValue[] = {Quote, option.numInSequenceStart, Quote, LF};
+constexpr ComparationItem comparationItemNumInSeqValue[] = {Equal(option.numInSequence, OptionNumInSequence)};
+constexpr CmdParaTable symParaNumInSequenceValue = Values(cmdParaNumInSeqValue);
+constexpr ComparationTable comparationParaNumInSequenceValue = Conditions(comparationItemNumInSeqValue);
 
 // JOBOFFSET, @OCSN: offset stacking by pages or by copies, and how many of them
-static const char prtfmtStrOffsetStackingTypePages[] = "@PJL SET JOBOFFSET=PAGES%c";
-static const void *const cmdParaOffsetStackingTypePages[] = {&CTRLSym_LF};
-static const ComparationItem comparationItemOffsetStackingTypePages[] = {OffsetByPages};
-static CmdParaTable symParaOffsetStackingTypePages;
-static ComparationTable comparationParaOffsetStackingTypePages;
+constexpr char prtfmtStrOffsetStackingTypePages[] = "@PJL SET JOBOFFSET=PAGES%c";
+constexpr const void *cmdParaOffsetStackingTypePages[] = {LF};
+constexpr ComparationItem comparationItemOffsetStackingTypePages[] = {OffsetByPages};
+constexpr CmdParaTable symParaOffsetStackingTypePages = Values(cmdParaOffsetStackingTypePages);
+constexpr ComparationTable comparationParaOffsetStackingTypePages = Conditions(comparationItemOffsetStackingTypePages);
 
-static const char prtfmtStrOffsetStackingTypeCopies[] = "@PJL SET JOBOFFSET=COPIES%c";
-static const void *const cmdParaOffsetStackingTypeCopies[] = {&CTRLSym_LF};
-static const ComparationItem comparationItemOffsetStackingTypeCopies[] = {OffsetByCopies};
-static CmdParaTable symParaOffsetStackingTypeCopies;
-static ComparationTable comparationParaOffsetStackingTypeCopies;
+constexpr char prtfmtStrOffsetStackingTypeCopies[] = "@PJL SET JOBOFFSET=COPIES%c";
+constexpr const void *cmdParaOffsetStackingTypeCopies[] = {LF};
+constexpr ComparationItem comparationItemOffsetStackingTypeCopies[] = {OffsetByCopies};
+constexpr CmdParaTable symParaOffsetStackingTypeCopies = Values(cmdParaOffsetStackingTypeCopies);
+constexpr ComparationTable comparationParaOffsetStackingTypeCopies =
+    Conditions(comparationItemOffsetStackingTypeCopies);
 
-static const char prtfmtStrOffsetStackingPagesValue[] = "@PJL SET JOBATTR=%c@OCSN=%s%c%c";
-static const void *const cmdParaOffsetStackingPagesValue[] = {&CTRLSym_DOUBLE, option.offsetStackingPages,
-                                                              &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemOffsetStackingPagesValue[] = {OffsetByPages};
-static CmdParaTable symParaOffsetStackingPagesValue;
-static ComparationTable comparationParaOffsetStackingPagesValue;
+constexpr char prtfmtStrOffsetStackingPagesValue[] = "@PJL SET JOBATTR=%c@OCSN=%s%c%c";
+constexpr const void *cmdParaOffsetStackingPagesValue[] = {Quote, option.offsetStackingPages, Quote, LF};
+constexpr ComparationItem comparationItemOffsetStackingPagesValue[] = {OffsetByPages};
+constexpr CmdParaTable symParaOffsetStackingPagesValue = Values(cmdParaOffsetStackingPagesValue);
+constexpr ComparationTable comparationParaOffsetStackingPagesValue =
+    Conditions(comparationItemOffsetStackingPagesValue);
 
-static const char prtfmtStrOffsetStackingUnitsValue[] = "@PJL SET JOBATTR=%c@OCSN=%s%c%c";
-static const void *const cmdParaOffsetStackingUnitsValue[] = {&CTRLSym_DOUBLE, option.offsetStackingUnits,
-                                                              &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemOffsetStackingUnitsValue[] = {OffsetByCopies};
-static CmdParaTable symParaOffsetStackingUnitsValue;
-static ComparationTable comparationParaOffsetStackingUnitsValue;
+constexpr char prtfmtStrOffsetStackingUnitsValue[] = "@PJL SET JOBATTR=%c@OCSN=%s%c%c";
+constexpr const void *cmdParaOffsetStackingUnitsValue[] = {Quote, option.offsetStackingUnits, Quote, LF};
+constexpr ComparationItem comparationItemOffsetStackingUnitsValue[] = {OffsetByCopies};
+constexpr CmdParaTable symParaOffsetStackingUnitsValue = Values(cmdParaOffsetStackingUnitsValue);
+constexpr ComparationTable comparationParaOffsetStackingUnitsValue =
+    Conditions(comparationItemOffsetStackingUnitsValue);
 
 // @FACE: output face; coil-punched output goes face up when tab or A5 media is involved
-static const char prtfmtStrEjectOptionsOffCoilFaceOn1[] = "@PJL SET JOBATTR=%c@FACE=OFF%c%c";
-static const void *const cmdParaEjectOptionsOffCoilFaceOn1[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsOffCoilFaceOn1[] = {
+constexpr char prtfmtStrEjectOptionsOffCoilFaceOn1[] = "@PJL SET JOBATTR=%c@FACE=OFF%c%c";
+constexpr const void *cmdParaEjectOptionsOffCoilFaceOn1[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemEjectOptionsOffCoilFaceOn1[] = {
     EjectOff, CoilPunch, NoTabMedia, NoSpecialPagesTab, CoilFaceOn, NoA5Media, NoSpecialPagesA5};
-static CmdParaTable symParaEjectOptionsOffCoilFaceOn1;
-static ComparationTable comparationParaEjectOptionsOffCoilFaceOn1;
+constexpr CmdParaTable symParaEjectOptionsOffCoilFaceOn1 = Values(cmdParaEjectOptionsOffCoilFaceOn1);
+constexpr ComparationTable comparationParaEjectOptionsOffCoilFaceOn1 =
+    Conditions(comparationItemEjectOptionsOffCoilFaceOn1);
 
-static const char prtfmtStrEjectOptionsOffCoilFaceOn2[] = "@PJL SET JOBATTR=%c@FACE=OFF%c%c";
-static const void *const cmdParaEjectOptionsOffCoilFaceOn2[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsOffCoilFaceOn2[] = {EjectOff, NoCoilPunch, CoilFaceOn};
-static CmdParaTable symParaEjectOptionsOffCoilFaceOn2;
-static ComparationTable comparationParaEjectOptionsOffCoilFaceOn2;
+constexpr char prtfmtStrEjectOptionsOffCoilFaceOn2[] = "@PJL SET JOBATTR=%c@FACE=OFF%c%c";
+constexpr const void *cmdParaEjectOptionsOffCoilFaceOn2[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemEjectOptionsOffCoilFaceOn2[] = {EjectOff, NoCoilPunch, CoilFaceOn};
+constexpr CmdParaTable symParaEjectOptionsOffCoilFaceOn2 = Values(cmdParaEjectOptionsOffCoilFaceOn2);
+constexpr ComparationTable comparationParaEjectOptionsOffCoilFaceOn2 =
+    Conditions(comparationItemEjectOptionsOffCoilFaceOn2);
 
-static const char prtfmtStrEjectOptionsOffCoilFaceOff[] = "@PJL SET JOBATTR=%c@FACE=OFF%c%c";
-static const void *const cmdParaEjectOptionsOffCoilFaceOff[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsOffCoilFaceOff[] = {EjectOff, CoilFaceOff};
-static CmdParaTable symParaEjectOptionsOffCoilFaceOff;
-static ComparationTable comparationParaEjectOptionsOffCoilFaceOff;
+constexpr char prtfmtStrEjectOptionsOffCoilFaceOff[] = "@PJL SET JOBATTR=%c@FACE=OFF%c%c";
+constexpr const void *cmdParaEjectOptionsOffCoilFaceOff[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemEjectOptionsOffCoilFaceOff[] = {EjectOff, CoilFaceOff};
+constexpr CmdParaTable symParaEjectOptionsOffCoilFaceOff = Values(cmdParaEjectOptionsOffCoilFaceOff);
+constexpr ComparationTable comparationParaEjectOptionsOffCoilFaceOff =
+    Conditions(comparationItemEjectOptionsOffCoilFaceOff);
 
-static const char prtfmtStrEjectOptionsDown[] = "@PJL SET JOBATTR=%c@FACE=DOWN%c%c";
-static const void *const cmdParaEjectOptionsDown[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsDown[] = {Equal(option.ejectOptions, EjectOptionsDown)};
-static CmdParaTable symParaEjectOptionsDown;
-static ComparationTable comparationParaEjectOptionsDown;
+constexpr char prtfmtStrEjectOptionsDown[] = "@PJL SET JOBATTR=%c@FACE=DOWN%c%c";
+constexpr const void *cmdParaEjectOptionsDown[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemEjectOptionsDown[] = {Equal(option.ejectOptions, EjectOptionsDown)};
+constexpr CmdParaTable symParaEjectOptionsDown = Values(cmdParaEjectOptionsDown);
+constexpr ComparationTable comparationParaEjectOptionsDown = Conditions(comparationItemEjectOptionsDown);
 
-static const char prtfmtStrEjectOptionsUp[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
-static const void *const cmdParaEjectOptionsUp[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsUp[] = {Equal(option.ejectOptions, EjectOptionsUp)};
-static CmdParaTable symParaEjectOptionsUp;
-static ComparationTable comparationParaEjectOptionsUp;
+constexpr char prtfmtStrEjectOptionsUp[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
+constexpr const void *cmdParaEjectOptionsUp[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemEjectOptionsUp[] = {Equal(option.ejectOptions, EjectOptionsUp)};
+constexpr CmdParaTable symParaEjectOptionsUp = Values(cmdParaEjectOptionsUp);
+constexpr ComparationTable comparationParaEjectOptionsUp = Conditions(comparationItemEjectOptionsUp);
 
-static const char prtfmtStrEjectOptionsDownReverse[] = "@PJL SET JOBATTR=%c@FACE=DOWN_REVERSE%c%c";
-static const void *const cmdParaEjectOptionsDownReverse[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsDownReverse[] = {
+constexpr char prtfmtStrEjectOptionsDownReverse[] = "@PJL SET JOBATTR=%c@FACE=DOWN_REVERSE%c%c";
+constexpr const void *cmdParaEjectOptionsDownReverse[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemEjectOptionsDownReverse[] = {
     Equal(option.ejectOptions, EjectOptionsDownReverse)};
-static CmdParaTable symParaEjectOptionsDownReverse;
-static ComparationTable comparationParaEjectOptionsDownReverse;
+constexpr CmdParaTable symParaEjectOptionsDownReverse = Values(cmdParaEjectOptionsDownReverse);
+constexpr ComparationTable comparationParaEjectOptionsDownReverse = Conditions(comparationItemEjectOptionsDownReverse);
 
-static const char prtfmtStrEjectOptionsUpReverse[] = "@PJL SET JOBATTR=%c@FACE=UP_REVERSE%c%c";
-static const void *const cmdParaEjectOptionsUpReverse[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemEjectOptionsUpReverse[] = {
-    Equal(option.ejectOptions, EjectOptionsUpReverse)};
-static CmdParaTable symParaEjectOptionsUpReverse;
-static ComparationTable comparationParaEjectOptionsUpReverse;
+constexpr char prtfmtStrEjectOptionsUpReverse[] = "@PJL SET JOBATTR=%c@FACE=UP_REVERSE%c%c";
+constexpr const void *cmdParaEjectOptionsUpReverse[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemEjectOptionsUpReverse[] = {Equal(option.ejectOptions, EjectOptionsUpReverse)};
+constexpr CmdParaTable symParaEjectOptionsUpReverse = Values(cmdParaEjectOptionsUpReverse);
+constexpr ComparationTable comparationParaEjectOptionsUpReverse = Conditions(comparationItemEjectOptionsUpReverse);
 
-static const char prtfmtStrFaceUpMediaTypeA5[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
-static const void *const cmdParaFaceUpMediaTypeA5[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemFaceUpMediaTypeA5[] = {
+constexpr char prtfmtStrFaceUpMediaTypeA5[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
+constexpr const void *cmdParaFaceUpMediaTypeA5[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemFaceUpMediaTypeA5[] = {
     EjectOff, CoilPunch, NoTabMedia, NoSpecialPagesTab, A5Media, NoSpecialPagesA5, CoilFaceOn};
-static CmdParaTable symParaFaceUpMediaTypeA5;
-static ComparationTable comparationParaFaceUpMediaTypeA5;
+constexpr CmdParaTable symParaFaceUpMediaTypeA5 = Values(cmdParaFaceUpMediaTypeA5);
+constexpr ComparationTable comparationParaFaceUpMediaTypeA5 = Conditions(comparationItemFaceUpMediaTypeA5);
 
-static const char prtfmtStrFaceUpSpecialpagesMediaTypeA5[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
-static const void *const cmdParaFaceUpSpecialpagesMediaTypeA5[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemFaceUpSpecialpagesMediaTypeA5[] = {
+constexpr char prtfmtStrFaceUpSpecialpagesMediaTypeA5[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
+constexpr const void *cmdParaFaceUpSpecialpagesMediaTypeA5[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemFaceUpSpecialpagesMediaTypeA5[] = {
     EjectOff, CoilPunch, NoTabMedia, NoSpecialPagesTab, NoA5Media, SpecialPagesA5, CoilFaceOn};
-static CmdParaTable symParaFaceUpSpecialpagesMediaTypeA5;
-static ComparationTable comparationParaFaceUpSpecialpagesMediaTypeA5;
+constexpr CmdParaTable symParaFaceUpSpecialpagesMediaTypeA5 = Values(cmdParaFaceUpSpecialpagesMediaTypeA5);
+constexpr ComparationTable comparationParaFaceUpSpecialpagesMediaTypeA5 =
+    Conditions(comparationItemFaceUpSpecialpagesMediaTypeA5);
 
-static const char prtfmtStrFaceUpMediaTypeAllA5[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
-static const void *const cmdParaFaceUpMediaTypeAllA5[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemFaceUpMediaTypeAllA5[] = {
+constexpr char prtfmtStrFaceUpMediaTypeAllA5[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
+constexpr const void *cmdParaFaceUpMediaTypeAllA5[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemFaceUpMediaTypeAllA5[] = {
     EjectOff, CoilPunch, NoTabMedia, NoSpecialPagesTab, A5Media, SpecialPagesA5, CoilFaceOn};
-static CmdParaTable symParaFaceUpMediaTypeAllA5;
-static ComparationTable comparationParaFaceUpMediaTypeAllA5;
+constexpr CmdParaTable symParaFaceUpMediaTypeAllA5 = Values(cmdParaFaceUpMediaTypeAllA5);
+constexpr ComparationTable comparationParaFaceUpMediaTypeAllA5 = Conditions(comparationItemFaceUpMediaTypeAllA5);
 
-static const char prtfmtStrFaceUpFeaturesMediaType[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
-static const void *const cmdParaFaceUpFeaturesMediaType[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemFaceUpFeaturesMediaType[] = {EjectOff, CoilPunch, TabMedia,
-                                                                         NoSpecialPagesTab, CoilFaceOn};
-static CmdParaTable symParaFaceUpFeaturesMediaType;
-static ComparationTable comparationParaFaceUpFeaturesMediaType;
+constexpr char prtfmtStrFaceUpFeaturesMediaType[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
+constexpr const void *cmdParaFaceUpFeaturesMediaType[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemFaceUpFeaturesMediaType[] = {EjectOff, CoilPunch, TabMedia, NoSpecialPagesTab,
+                                                                      CoilFaceOn};
+constexpr CmdParaTable symParaFaceUpFeaturesMediaType = Values(cmdParaFaceUpFeaturesMediaType);
+constexpr ComparationTable comparationParaFaceUpFeaturesMediaType = Conditions(comparationItemFaceUpFeaturesMediaType);
 
-static const char prtfmtStrFaceUpSpecialPagesMediaType[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
-static const void *const cmdParaFaceUpSpecialPagesMediaType[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemFaceUpSpecialPagesMediaType[] = {EjectOff, CoilPunch, NoTabMedia,
-                                                                             SpecialPagesTab, CoilFaceOn};
-static CmdParaTable symParaFaceUpSpecialPagesMediaType;
-static ComparationTable comparationParaFaceUpSpecialPagesMediaType;
+constexpr char prtfmtStrFaceUpSpecialPagesMediaType[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
+constexpr const void *cmdParaFaceUpSpecialPagesMediaType[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemFaceUpSpecialPagesMediaType[] = {EjectOff, CoilPunch, NoTabMedia,
+                                                                          SpecialPagesTab, CoilFaceOn};
+constexpr CmdParaTable symParaFaceUpSpecialPagesMediaType = Values(cmdParaFaceUpSpecialPagesMediaType);
+constexpr ComparationTable comparationParaFaceUpSpecialPagesMediaType =
+    Conditions(comparationItemFaceUpSpecialPagesMediaType);
 
-static const char prtfmtStrFaceUpBothMediaType[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
-static const void *const cmdParaFaceUpBothMediaType[] = {&CTRLSym_DOUBLE, &CTRLSym_DOUBLE, &CTRLSym_LF};
-static const ComparationItem comparationItemFaceUpBothMediaType[] = {EjectOff, CoilPunch, TabMedia, SpecialPagesTab,
-                                                                     CoilFaceOn};
-static CmdParaTable symParaFaceUpBothMediaType;
-static ComparationTable comparationParaFaceUpBothMediaType;
+constexpr char prtfmtStrFaceUpBothMediaType[] = "@PJL SET JOBATTR=%c@FACE=UP%c%c";
+constexpr const void *cmdParaFaceUpBothMediaType[] = {Quote, Quote, LF};
+constexpr ComparationItem comparationItemFaceUpBothMediaType[] = {EjectOff, CoilPunch, TabMedia, SpecialPagesTab,
+                                                                  CoilFaceOn};
+constexpr CmdParaTable symParaFaceUpBothMediaType = Values(cmdParaFaceUpBothMediaType);
+constexpr ComparationTable comparationParaFaceUpBothMediaType = Conditions(comparationItemFaceUpBothMediaType);
 
 const FmtTableRow FeaturesFmtTable[] = {
-    {prtfmtStrTabMarginValueNone, &symParaTabMarginValueNone, &comparationParaTabMarginValueNone},
-    {prtfmtStrTabMarginValue, &symParaTabMarginValue, &comparationParaTabMarginValue},
-    {prtfmtStrTrimmerValueNone, &symParaTrimmerValueNone, &comparationParaTrimmerValueNone},
-    {prtfmtStrTrimmerValue, &symParaTrimmerValue, &comparationParaTrimmerValue},
-    {prtfmtStrTrimmerLittleValue, &symParaTrimmerLittleValue, &comparationParaTrimmerLittleValue},
-    {prtfmtStrTrimmerWidthValue, &symParaTrimmerWidthValue, &comparationParaTrimmerWidthValue},
-    {prtfmtStrTrimmerHeightValue, &symParaTrimmerHeightValue, &comparationParaTrimmerHeightValue},
-    {prtfmtStrTrimmerHeightValueNone, &symParaTrimmerHeightValueNone, &comparationParaTrimmerHeightValueNone},
-    {prtfmtStrTrimmerAdjustValue, &symParaTrimmerAdjustValue, &comparationParaTrimmerAdjustValue},
-    {prtfmtStrTrimmerAdjustValueNone, &symParaTrimmerAdjustValueNone, &comparationParaTrimmerAdjustValueNone},
-    {prtfmtStrNumInSeqValueNone, &symParaNumInSequenceValueNone, &comparationParaNumInSequenceValueNone},
-    {prtfmtStrNumInSeqValue, &symParaNumInSequenceValue, &comparationParaNumInSequenceValue},
-    {prtfmtStrOffsetStackingTypePages, &symParaOffsetStackingTypePages, &comparationParaOffsetStackingTypePages},
-    {prtfmtStrOffsetStackingTypeCopies, &symParaOffsetStackingTypeCopies, &comparationParaOffsetStackingTypeCopies},
-    {prtfmtStrOffsetStackingPagesValue, &symParaOffsetStackingPagesValue, &comparationParaOffsetStackingPagesValue},
-    {prtfmtStrOffsetStackingUnitsValue, &symParaOffsetStackingUnitsValue, &comparationParaOffsetStackingUnitsValue},
-    {prtfmtStrEjectOptionsOffCoilFaceOn1, &symParaEjectOptionsOffCoilFaceOn1,
-     &comparationParaEjectOptionsOffCoilFaceOn1},
-    {prtfmtStrEjectOptionsOffCoilFaceOn2, &symParaEjectOptionsOffCoilFaceOn2,
-     &comparationParaEjectOptionsOffCoilFaceOn2},
-    {prtfmtStrEjectOptionsOffCoilFaceOff, &symParaEjectOptionsOffCoilFaceOff,
-     &comparationParaEjectOptionsOffCoilFaceOff},
-    {prtfmtStrEjectOptionsDown, &symParaEjectOptionsDown, &comparationParaEjectOptionsDown},
-    {prtfmtStrEjectOptionsUp, &symParaEjectOptionsUp, &comparationParaEjectOptionsUp},
-    {prtfmtStrEjectOptionsDownReverse, &symParaEjectOptionsDownReverse, &comparationParaEjectOptionsDownReverse},
-    {prtfmtStrEjectOptionsUpReverse, &symParaEjectOptionsUpReverse, &comparationParaEjectOptionsUpReverse},
-    {prtfmtStrFaceUpMediaTypeA5, &symParaFaceUpMediaTypeA5, &comparationParaFaceUpMediaTypeA5},
-    {prtfmtStrFaceUpSpecialpagesMediaTypeA5, &symParaFaceUpSpecialpagesMediaTypeA5,
-     &comparationParaFaceUpSpecialpagesMediaTypeA5},
-    {prtfmtStrFaceUpMediaTypeAllA5, &symParaFaceUpMediaTypeAllA5, &comparationParaFaceUpMediaTypeAllA5},
-    {prtfmtStrFaceUpFeaturesMediaType, &symParaFaceUpFeaturesMediaType, &comparationParaFaceUpFeaturesMediaType},
-    {prtfmtStrFaceUpSpecialPagesMediaType, &symParaFaceUpSpecialPagesMediaType,
-     &comparationParaFaceUpSpecialPagesMediaType},
-    {prtfmtStrFaceUpBothMediaType, &symParaFaceUpBothMediaType, &comparationParaFaceUpBothMediaType},
+    Command(prtfmtStrTabMarginValueNone, &symParaTabMarginValueNone, &comparationParaTabMarginValueNone),
+    Command(prtfmtStrTabMarginValue, &symParaTabMarginValue, &comparationParaTabMarginValue),
+    Command(prtfmtStrTrimmerValueNone, &symParaTrimmerValueNone, &comparationParaTrimmerValueNone),
+    Command(prtfmtStrTrimmerValue, &symParaTrimmerValue, &comparationParaTrimmerValue),
+    Command(prtfmtStrTrimmerLittleValue, &symParaTrimmerLittleValue, &comparationParaTrimmerLittleValue),
+    Command(prtfmtStrTrimmerWidthValue, &symParaTrimmerWidthValue, &comparationParaTrimmerWidthValue),
+    Command(prtfmtStrTrimmerHeightValue, &symParaTrimmerHeightValue, &comparationParaTrimmerHeightValue),
+    Command(prtfmtStrTrimmerHeightValueNone, &symParaTrimmerHeightValueNone, &comparationParaTrimmerHeightValueNone),
+    Command(prtfmtStrTrimmerAdjustValue, &symParaTrimmerAdjustValue, &comparationParaTrimmerAdjustValue),
+    Command(prtfmtStrTrimmerAdjustValueNone, &symParaTrimmerAdjustValueNone, &comparationParaTrimmerAdjustValueNone),
+    Command(prtfmtStrNumInSeqValueNone, &symParaNumInSequenceValueNone, &comparationParaNumInSequenceValueNone),
+    Command(prtfmtStrNumInSeqValue, &symParaNumInSequenceValue, &comparationParaNumInSequenceValue),
+    Command(prtfmtStrOffsetStackingTypePages, &symParaOffsetStackingTypePages, &comparationParaOffsetStackingTypePages),
+    Command(prtfmtStrOffsetStackingTypeCopies, &symParaOffsetStackingTypeCopies,
+            &comparationParaOffsetStackingTypeCopies),
+    Command(prtfmtStrOffsetStackingPagesValue, &symParaOffsetStackingPagesValue,
+            &comparationParaOffsetStackingPagesValue),
+    Command(prtfmtStrOffsetStackingUnitsValue, &symParaOffsetStackingUnitsValue,
+            &comparationParaOffsetStackingUnitsValue),
+    Command(prtfmtStrEjectOptionsOffCoilFaceOn1, &symParaEjectOptionsOffCoilFaceOn1,
+            &comparationParaEjectOptionsOffCoilFaceOn1),
+    Command(prtfmtStrEjectOptionsOffCoilFaceOn2, &symParaEjectOptionsOffCoilFaceOn2,
+            &comparationParaEjectOptionsOffCoilFaceOn2),
+    Command(prtfmtStrEjectOptionsOffCoilFaceOff, &symParaEjectOptionsOffCoilFaceOff,
+            &comparationParaEjectOptionsOffCoilFaceOff),
+    Command(prtfmtStrEjectOptionsDown, &symParaEjectOptionsDown, &comparationParaEjectOptionsDown),
+    Command(prtfmtStrEjectOptionsUp, &symParaEjectOptionsUp, &comparationParaEjectOptionsUp),
+    Command(prtfmtStrEjectOptionsDownReverse, &symParaEjectOptionsDownReverse, &comparationParaEjectOptionsDownReverse),
+    Command(prtfmtStrEjectOptionsUpReverse, &symParaEjectOptionsUpReverse, &comparationParaEjectOptionsUpReverse),
+    Command(prtfmtStrFaceUpMediaTypeA5, &symParaFaceUpMediaTypeA5, &comparationParaFaceUpMediaTypeA5),
+    Command(prtfmtStrFaceUpSpecialpagesMediaTypeA5, &symParaFaceUpSpecialpagesMediaTypeA5,
+            &comparationParaFaceUpSpecialpagesMediaTypeA5),
+    Command(prtfmtStrFaceUpMediaTypeAllA5, &symParaFaceUpMediaTypeAllA5, &comparationParaFaceUpMediaTypeAllA5),
+    Command(prtfmtStrFaceUpFeaturesMediaType, &symParaFaceUpFeaturesMediaType, &comparationParaFaceUpFeaturesMediaType),
+    Command(prtfmtStrFaceUpSpecialPagesMediaType, &symParaFaceUpSpecialPagesMediaType,
+            &comparationParaFaceUpSpecialPagesMediaType),
+    Command(prtfmtStrFaceUpBothMediaType, &symParaFaceUpBothMediaType, &comparationParaFaceUpBothMediaType),
 };
 const int32_t FeaturesFmtTableNum = static_cast<int32_t>(std::size(FeaturesFmtTable));
-
-void FeaturesInitializeCmdParaTable()
-{
-    InitializeCmdParaTable(symParaTabMarginValueNone, cmdParaTabMarginValueNone);
-    InitializeCmdParaTable(symParaTabMarginValue, cmdParaTabMarginValue);
-    InitializeCmdParaTable(symParaTrimmerValueNone, cmdParaTrimmerValueNone);
-    InitializeCmdParaTable(symParaTrimmerValue, cmdParaTrimmerValue);
-    InitializeCmdParaTable(symParaTrimmerLittleValue, cmdParaTrimmerLittleValue);
-    InitializeCmdParaTable(symParaTrimmerWidthValue, cmdParaTrimmerWidthValue);
-    InitializeCmdParaTable(symParaTrimmerHeightValue, cmdParaTrimmerHeightValue);
-    InitializeCmdParaTable(symParaTrimmerHeightValueNone, cmdParaTrimmerHeightValueNone);
-    InitializeCmdParaTable(symParaTrimmerAdjustValue, cmdParaTrimmerAdjustValue);
-    InitializeCmdParaTable(symParaTrimmerAdjustValueNone, cmdParaTrimmerAdjustValueNone);
-    InitializeCmdParaTable(symParaNumInSequenceValueNone, cmdParaNumInSeqValueNone);
-    InitializeCmdParaTable(symParaNumInSequenceValue, cmdParaNumInSeqValue);
-    InitializeCmdParaTable(symParaOffsetStackingTypePages, cmdParaOffsetStackingTypePages);
-    InitializeCmdParaTable(symParaOffsetStackingTypeCopies, cmdParaOffsetStackingTypeCopies);
-    InitializeCmdParaTable(symParaOffsetStackingPagesValue, cmdParaOffsetStackingPagesValue);
-    InitializeCmdParaTable(symParaOffsetStackingUnitsValue, cmdParaOffsetStackingUnitsValue);
-    InitializeCmdParaTable(symParaEjectOptionsOffCoilFaceOn1, cmdParaEjectOptionsOffCoilFaceOn1);
-    InitializeCmdParaTable(symParaEjectOptionsOffCoilFaceOn2, cmdParaEjectOptionsOffCoilFaceOn2);
-    InitializeCmdParaTable(symParaEjectOptionsOffCoilFaceOff, cmdParaEjectOptionsOffCoilFaceOff);
-    InitializeCmdParaTable(symParaEjectOptionsDown, cmdParaEjectOptionsDown);
-    InitializeCmdParaTable(symParaEjectOptionsUp, cmdParaEjectOptionsUp);
-    InitializeCmdParaTable(symParaEjectOptionsDownReverse, cmdParaEjectOptionsDownReverse);
-    InitializeCmdParaTable(symParaEjectOptionsUpReverse, cmdParaEjectOptionsUpReverse);
-    InitializeCmdParaTable(symParaFaceUpMediaTypeA5, cmdParaFaceUpMediaTypeA5);
-    InitializeCmdParaTable(symParaFaceUpSpecialpagesMediaTypeA5, cmdParaFaceUpSpecialpagesMediaTypeA5);
-    InitializeCmdParaTable(symParaFaceUpMediaTypeAllA5, cmdParaFaceUpMediaTypeAllA5);
-    InitializeCmdParaTable(symParaFaceUpFeaturesMediaType, cmdParaFaceUpFeaturesMediaType);
-    InitializeCmdParaTable(symParaFaceUpSpecialPagesMediaType, cmdParaFaceUpSpecialPagesMediaType);
-    InitializeCmdParaTable(symParaFaceUpBothMediaType, cmdParaFaceUpBothMediaType);
-}
-
-void FeaturesInitialzieComparationTable()
-{
-    InitializeComparationTable(comparationParaTabMarginValueNone, comparationItemTabMarginValueNone);
-    InitializeComparationTable(comparationParaTabMarginValue, comparationItemTabMarginValue);
-    InitializeComparationTable(comparationParaTrimmerValueNone, comparationItemTrimmerValueNone);
-    InitializeComparationTable(comparationParaTrimmerValue, comparationItemTrimmerValue);
-    InitializeComparationTable(comparationParaTrimmerLittleValue, comparationItemTrimmerLittleValue);
-    InitializeComparationTable(comparationParaTrimmerWidthValue, comparationItemTrimmerWidthValue);
-    InitializeComparationTable(comparationParaTrimmerHeightValue, comparationItemTrimmerHeightValue);
-    InitializeComparationTable(comparationParaTrimmerHeightValueNone, comparationItemTrimmerHeightValueNone);
-    InitializeComparationTable(comparationParaTrimmerAdjustValue, comparationItemTrimmerAdjustValue);
-    InitializeComparationTable(comparationParaTrimmerAdjustValueNone, comparationItemTrimmerAdjustValueNone);
-    InitializeComparationTable(comparationParaNumInSequenceValueNone, comparationItemNumInSeqValueNone);
-    InitializeComparationTable(comparationParaNumInSequenceValue, comparationItemNumInSeqValue);
-    InitializeComparationTable(comparationParaOffsetStackingTypePages, comparationItemOffsetStackingTypePages);
-    InitializeComparationTable(comparationParaOffsetStackingTypeCopies, comparationItemOffsetStackingTypeCopies);
-    InitializeComparationTable(comparationParaOffsetStackingPagesValue, comparationItemOffsetStackingPagesValue);
-    InitializeComparationTable(comparationParaOffsetStackingUnitsValue, comparationItemOffsetStackingUnitsValue);
-    InitializeComparationTable(comparationParaEjectOptionsOffCoilFaceOn1, comparationItemEjectOptionsOffCoilFaceOn1);
-    InitializeComparationTable(comparationParaEjectOptionsOffCoilFaceOn2, comparationItemEjectOptionsOffCoilFaceOn2);
-    InitializeComparationTable(comparationParaEjectOptionsOffCoilFaceOff, comparationItemEjectOptionsOffCoilFaceOff);
-    InitializeComparationTable(comparationParaEjectOptionsDown, comparationItemEjectOptionsDown);
-    InitializeComparationTable(comparationParaEjectOptionsUp, comparationItemEjectOptionsUp);
-    InitializeComparationTable(comparationParaEjectOptionsDownReverse, comparationItemEjectOptionsDownReverse);
-    InitializeComparationTable(comparationParaEjectOptionsUpReverse, comparationItemEjectOptionsUpReverse);
-    InitializeComparationTable(comparationParaFaceUpMediaTypeA5, comparationItemFaceUpMediaTypeA5);
-    InitializeComparationTable(comparationParaFaceUpSpecialpagesMediaTypeA5,
-                               comparationItemFaceUpSpecialpagesMediaTypeA5);
-    InitializeComparationTable(comparationParaFaceUpMediaTypeAllA5, comparationItemFaceUpMediaTypeAllA5);
-    InitializeComparationTable(comparationParaFaceUpFeaturesMediaType, comparationItemFaceUpFeaturesMediaType);
-    InitializeComparationTable(comparationParaFaceUpSpecialPagesMediaType, comparationItemFaceUpSpecialPagesMediaType);
-    InitializeComparationTable(comparationParaFaceUpBothMediaType, comparationItemFaceUpBothMediaType);
-}

@@ -1,299 +1,373 @@
-// The lines of administrator mode, in output order: what differs from the common line of the same kind.
-// A line has the format of its counterpart and, where it sends no field of the administrator's, its values.
-#include "JBATables.h"
+// The lines of administrator mode, in output order, and the tickets of the administrator's settings.
+// "ComIn" rows send what is stored in the dialog, "JobIn" rows what was entered for this job.
+#include "JBAConditions.h"
 
 #include "JobState.h"
 
 #include <iterator>
 
-// The stored settings.
-static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin = prtfmtStrComInTypeUseLoginName;
-const ComparationItem comparationItemComInTypeUseLoginNameAdmin[] = {AdminMode, AdminStoredSettings, AdminUseLoginName,
-                                                                     NotEmpty(StdUserName), NoInfoList};
-static ComparationTable comparationComInTypeUseLoginNameAdmin;
+// The tickets. TypedText reads what the user typed as free text, in the encoding of the job.
+template <TicketGetter TypedText>
+static constexpr ticketData tickets[] = {
+    IntegerTicket(kJBAJobInfoRadioBtnTicketKeyAdmin, option.adminUserSetting),
+    IntegerTicket(kJBAUserIDListCtrlTicketKeyAdmin, option.adminUserIDList),
+    TextTicket(kJBAUserIDTextEditTicketKeyAdmin, option.adminUserID, TypedText),
+    TextTicket(kJBADomainNameTicketKeyAdmin, option.adminDomainName),
+    PasswordTicket(kJBAUserIDPasswordTextEditTicketKeyAdmin, option.adminUserPassword),
+    TextTicket(kJBAAccountIDTextEditTicketKeyAdmin, option.adminAccountID),
+    TextTicket(kJBAStorageIDTextEditTicketKeyAdmin, option.adminStorageID, TypedText),
+    PasswordTicket(kJBAStoragePasswordTextEditTicketKeyAdmin, option.adminStoragePassword),
+    IntegerTicket(kJBAJobInputRadioBtnTicketKeyAdmin, option.adminUserInput),
+};
+constinit const TicketTable JBAticketDataAdmin = tickets<GetTicketStringConvertedToPrtLang>;
+constinit const TicketTable JBAticketDataAdminForUTF8 = tickets<GetTicketStringConvertedToPrtLangForUTF8>;
+const int32_t JBATicketDataNumAdmin = static_cast<int32_t>(JBAticketDataAdmin.size());
 
-static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin1 = prtfmtStrComInTypeUseLoginName1;
-const ComparationItem comparationItemComInTypeUseLoginNameAdmin1[] = {
+// What the administrator stored in the dialog.
+
+// @JOAU: the user to authenticate
+constexpr char prtfmtStrComInTypeUseLoginNameAdmin[] = "@PJL SET JOBATTR=%c@JOAU=%s%c%c%c";
+constexpr const void *cmdParaComInTypeUseLoginNameAdmin[] = {Quote, StdJBAUserName, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInTypeUseLoginNameAdmin[] = {
+    AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), NoInfoList};
+constexpr CmdParaTable symParaComInTypeUseLoginNameAdmin = Values(cmdParaComInTypeUseLoginNameAdmin);
+constexpr ComparationTable comparationComInTypeUseLoginNameAdmin =
+    Conditions(comparationItemComInTypeUseLoginNameAdmin);
+
+constexpr char prtfmtStrComInTypeUseLoginNameAdmin1[] = "@PJL SET JOBATTR=%c@JOAU=UnknownUser%c\n";
+constexpr const void *cmdParaComInTypeUseLoginNameAdmin1[] = {Quote, Quote};
+constexpr ComparationItem comparationItemComInTypeUseLoginNameAdmin1[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, AnyInfoList, BillingOnly, NameShown};
-static ComparationTable comparationComInTypeUseLoginNameAdmin1;
+constexpr CmdParaTable symParaComInTypeUseLoginNameAdmin1 = Values(cmdParaComInTypeUseLoginNameAdmin1);
+constexpr ComparationTable comparationComInTypeUseLoginNameAdmin1 =
+    Conditions(comparationItemComInTypeUseLoginNameAdmin1);
 
-static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin2 = prtfmtStrComInTypeUseLoginName2;
-const ComparationItem comparationItemComInTypeUseLoginNameAdmin2[] = {
+constexpr char prtfmtStrComInTypeUseLoginNameAdmin2[] = "@PJL SET JOBATTR=%c@JOAU=%s%c%c%c";
+constexpr const void *cmdParaComInTypeUseLoginNameAdmin2[] = {Quote, StdJBAUserName, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInTypeUseLoginNameAdmin2[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), AnyInfoList, UserAccount, NameShown};
-static ComparationTable comparationComInTypeUseLoginNameAdmin2;
+constexpr CmdParaTable symParaComInTypeUseLoginNameAdmin2 = Values(cmdParaComInTypeUseLoginNameAdmin2);
+constexpr ComparationTable comparationComInTypeUseLoginNameAdmin2 =
+    Conditions(comparationItemComInTypeUseLoginNameAdmin2);
 
-static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin3 = prtfmtStrComInTypeUseLoginName3;
-const ComparationItem comparationItemComInTypeUseLoginNameAdmin3[] = {
+constexpr char prtfmtStrComInTypeUseLoginNameAdmin3[] = "@PJL SET JOBATTR=%c@JOAU=%s%c%c%c";
+constexpr const void *cmdParaComInTypeUseLoginNameAdmin3[] = {Quote, StdJBAUserName, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInTypeUseLoginNameAdmin3[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), AnyInfoList, AllInfo, NameShown};
-static ComparationTable comparationComInTypeUseLoginNameAdmin3;
+constexpr CmdParaTable symParaComInTypeUseLoginNameAdmin3 = Values(cmdParaComInTypeUseLoginNameAdmin3);
+constexpr ComparationTable comparationComInTypeUseLoginNameAdmin3 =
+    Conditions(comparationItemComInTypeUseLoginNameAdmin3);
 
-static constexpr auto &prtfmtStrComInTypeUseLoginNameAdmin4 = prtfmtStrComInTypeUseLoginName4;
-const ComparationItem comparationItemComInTypeUseLoginNameAdmin4[] = {AdminMode, AdminStoredSettings, AdminUseLoginName,
-                                                                      AnyInfoList, NameHidden};
-static ComparationTable comparationComInTypeUseLoginNameAdmin4;
+constexpr char prtfmtStrComInTypeUseLoginNameAdmin4[] = "@PJL SET JOBATTR=%c@JOAU=UnknownUser%c\n";
+constexpr const void *cmdParaComInTypeUseLoginNameAdmin4[] = {Quote, Quote};
+constexpr ComparationItem comparationItemComInTypeUseLoginNameAdmin4[] = {AdminMode, AdminStoredSettings,
+                                                                          AdminUseLoginName, AnyInfoList, NameHidden};
+constexpr CmdParaTable symParaComInTypeUseLoginNameAdmin4 = Values(cmdParaComInTypeUseLoginNameAdmin4);
+constexpr ComparationTable comparationComInTypeUseLoginNameAdmin4 =
+    Conditions(comparationItemComInTypeUseLoginNameAdmin4);
 
-static constexpr auto &prtfmtStrComInTypeUseEnterNameAdmin = prtfmtStrComInTypeUseEnterName;
-const void *const cmdParaComInTypeUseEnterNameAdmin[] = {&CTRLSym_DOUBLE, option.adminUserID, &CTRLSym_DOUBLE,
-                                                         &CTRLSym_CR, &CTRLSym_LF};
-const ComparationItem comparationItemComInTypeUseEnterNameAdmin[] = {AdminMode, AdminStoredSettings,
-                                                                     AdminUseEnteredName, NotEmpty(option.adminUserID)};
-static CmdParaTable symParaComInTypeUseEnterNameAdmin;
-static ComparationTable comparationComInTypeUseEnterNameAdmin;
+constexpr char prtfmtStrComInTypeUseEnterNameAdmin[] = "@PJL SET JOBATTR=%c@JOAU=%s%c%c%c";
+constexpr const void *cmdParaComInTypeUseEnterNameAdmin[] = {Quote, option.adminUserID, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInTypeUseEnterNameAdmin[] = {
+    AdminMode, AdminStoredSettings, AdminUseEnteredName, NotEmpty(option.adminUserID)};
+constexpr CmdParaTable symParaComInTypeUseEnterNameAdmin = Values(cmdParaComInTypeUseEnterNameAdmin);
+constexpr ComparationTable comparationComInTypeUseEnterNameAdmin =
+    Conditions(comparationItemComInTypeUseEnterNameAdmin);
 
-static constexpr auto &prtfmtStrComInUserEnterPassword1Admin = prtfmtStrComInUserEnterPassword1;
-const void *const cmdParaComInUserEnterPassword1Admin[] = {&CTRLSym_DOUBLE, option.adminUserPassword, &CTRLSym_DOUBLE,
-                                                           &CTRLSym_CR, &CTRLSym_LF};
-const ComparationItem comparationItemComInUserEnterPassword1Admin[] = {
+// @JOEP: the user's password
+constexpr char prtfmtStrComInUserEnterPassword1Admin[] = "@PJL SET JOBATTR=%c@JOEP=%s%c%c%c";
+constexpr const void *cmdParaComInUserEnterPassword1Admin[] = {Quote, option.adminUserPassword, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInUserEnterPassword1Admin[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), NotEmpty(option.adminUserPassword)};
-static CmdParaTable symParaComInUserEnterPassword1Admin;
-static ComparationTable comparationComInUserEnterPassword1Admin;
+constexpr CmdParaTable symParaComInUserEnterPassword1Admin = Values(cmdParaComInUserEnterPassword1Admin);
+constexpr ComparationTable comparationComInUserEnterPassword1Admin =
+    Conditions(comparationItemComInUserEnterPassword1Admin);
 
-static constexpr auto &prtfmtStrComInUserEnterPassword1NULLAdmin = prtfmtStrComInUserEnterPassword1NULL;
-const ComparationItem comparationItemComInUserEnterPassword1NULLAdmin[] = {
+constexpr char prtfmtStrComInUserEnterPassword1NULLAdmin[] = "@PJL SET JOBATTR=%c@JOEP=%c%c%c";
+constexpr const void *cmdParaComInUserEnterPassword1NULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInUserEnterPassword1NULLAdmin[] = {
     AdminMode, AdminStoredSettings, AdminUseLoginName, NotEmpty(StdUserName), Empty(option.adminUserPassword)};
-static ComparationTable comparationComInUserEnterPassword1NULLAdmin;
+constexpr CmdParaTable symParaComInUserEnterPassword1NULLAdmin = Values(cmdParaComInUserEnterPassword1NULLAdmin);
+constexpr ComparationTable comparationComInUserEnterPassword1NULLAdmin =
+    Conditions(comparationItemComInUserEnterPassword1NULLAdmin);
 
-static constexpr auto &prtfmtStrComInUserEnterPassword2Admin = prtfmtStrComInUserEnterPassword2;
-const void *const cmdParaComInUserEnterPassword2Admin[] = {&CTRLSym_DOUBLE, option.adminUserPassword, &CTRLSym_DOUBLE,
-                                                           &CTRLSym_CR, &CTRLSym_LF};
-const ComparationItem comparationItemComInUserEnterPassword2Admin[] = {
+constexpr char prtfmtStrComInUserEnterPassword2Admin[] = "@PJL SET JOBATTR=%c@JOEP=%s%c%c%c";
+constexpr const void *cmdParaComInUserEnterPassword2Admin[] = {Quote, option.adminUserPassword, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInUserEnterPassword2Admin[] = {
     AdminMode, AdminStoredSettings, AdminUseEnteredName, NotEmpty(option.adminUserID),
     NotEmpty(option.adminUserPassword)};
-static CmdParaTable symParaComInUserEnterPassword2Admin;
-static ComparationTable comparationComInUserEnterPassword2Admin;
+constexpr CmdParaTable symParaComInUserEnterPassword2Admin = Values(cmdParaComInUserEnterPassword2Admin);
+constexpr ComparationTable comparationComInUserEnterPassword2Admin =
+    Conditions(comparationItemComInUserEnterPassword2Admin);
 
-static constexpr auto &prtfmtStrComInUserEnterPassword2NULLAdmin = prtfmtStrComInUserEnterPassword2NULL;
-const ComparationItem comparationItemComInUserEnterPassword2NULLAdmin[] = {
+constexpr char prtfmtStrComInUserEnterPassword2NULLAdmin[] = "@PJL SET JOBATTR=%c@JOEP=%c%c%c";
+constexpr const void *cmdParaComInUserEnterPassword2NULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInUserEnterPassword2NULLAdmin[] = {
     AdminMode, AdminStoredSettings, AdminUseEnteredName, NotEmpty(option.adminUserID), Empty(option.adminUserPassword)};
-static ComparationTable comparationComInUserEnterPassword2NULLAdmin;
+constexpr CmdParaTable symParaComInUserEnterPassword2NULLAdmin = Values(cmdParaComInUserEnterPassword2NULLAdmin);
+constexpr ComparationTable comparationComInUserEnterPassword2NULLAdmin =
+    Conditions(comparationItemComInUserEnterPassword2NULLAdmin);
 
-static constexpr auto &prtfmtStrComInTypeDomainNameAdmin = prtfmtStrComInDomainName;
-const void *const cmdParaComInTypeDomainNameAdmin[] = {&CTRLSym_DOUBLE, option.adminDomainName, &CTRLSym_DOUBLE,
-                                                       &CTRLSym_CR, &CTRLSym_LF};
-const ComparationItem comparationItemComInTypeDomainNameAdmin[] = {AdminMode, AdminStoredSettings,
-                                                                   NotEmpty(option.adminDomainName)};
-static CmdParaTable symParaComInTypeDomainNameAdmin;
-static ComparationTable comparationComInTypeDomainNameAdmin;
+// @JOAD: the user's domain
+constexpr char prtfmtStrComInTypeDomainNameAdmin[] = "@PJL SET JOBATTR=%c@JOAD=%s%c%c%c";
+constexpr const void *cmdParaComInTypeDomainNameAdmin[] = {Quote, option.adminDomainName, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInTypeDomainNameAdmin[] = {AdminMode, AdminStoredSettings,
+                                                                       NotEmpty(option.adminDomainName)};
+constexpr CmdParaTable symParaComInTypeDomainNameAdmin = Values(cmdParaComInTypeDomainNameAdmin);
+constexpr ComparationTable comparationComInTypeDomainNameAdmin = Conditions(comparationItemComInTypeDomainNameAdmin);
 
-static constexpr auto &prtfmtStrComInAccountAdmin = prtfmtStrComInAccount;
-const void *const cmdParaComInAccountAdmin[] = {&CTRLSym_DOUBLE, option.adminAccountID, &CTRLSym_DOUBLE, &CTRLSym_CR,
-                                                &CTRLSym_LF};
-const ComparationItem comparationItemComInAccountAdmin[] = {AdminMode, AdminStoredSettings,
-                                                            NotEmpty(option.adminAccountID)};
-static CmdParaTable symParaComInAccountAdmin;
-static ComparationTable comparationComInAccountAdmin;
+// @DAID: the account
+constexpr char prtfmtStrComInAccountAdmin[] = "@PJL SET JOBATTR=%c@DAID=%s%c%c%c";
+constexpr const void *cmdParaComInAccountAdmin[] = {Quote, option.adminAccountID, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInAccountAdmin[] = {AdminMode, AdminStoredSettings,
+                                                                NotEmpty(option.adminAccountID)};
+constexpr CmdParaTable symParaComInAccountAdmin = Values(cmdParaComInAccountAdmin);
+constexpr ComparationTable comparationComInAccountAdmin = Conditions(comparationItemComInAccountAdmin);
 
-static constexpr auto &prtfmtStrComInAccountNULLAdmin = prtfmtStrComInAccountNULL;
-const ComparationItem comparationItemComInAccountNULLAdmin[] = {AdminMode, AdminStoredSettings,
-                                                                Empty(option.adminAccountID)};
-static ComparationTable comparationComInAccountNULLAdmin;
+constexpr char prtfmtStrComInAccountNULLAdmin[] = "@PJL SET JOBATTR=%c@DAID=%c%c%c";
+constexpr const void *cmdParaComInAccountNULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInAccountNULLAdmin[] = {AdminMode, AdminStoredSettings,
+                                                                    Empty(option.adminAccountID)};
+constexpr CmdParaTable symParaComInAccountNULLAdmin = Values(cmdParaComInAccountNULLAdmin);
+constexpr ComparationTable comparationComInAccountNULLAdmin = Conditions(comparationItemComInAccountNULLAdmin);
 
-static constexpr auto &prtfmtStrComInAccumulationIDAdmin = prtfmtStrComInAccumulationID;
-const void *const cmdParaComInAccumulationIDAdmin[] = {&CTRLSym_DOUBLE, option.adminStorageID, &CTRLSym_DOUBLE,
-                                                       &CTRLSym_CR, &CTRLSym_LF};
-const ComparationItem comparationItemComInAccumulationIDAdmin[] = {AdminMode, AdminStoredSettings,
-                                                                   NotEmpty(option.adminStorageID)};
-static CmdParaTable symParaComInAccumulationIDAdmin;
-static ComparationTable comparationComInAccumulationIDAdmin;
+// @ACID: the storage
+constexpr char prtfmtStrComInAccumulationIDAdmin[] = "@PJL SET JOBATTR=%c@ACID=%s%c%c%c";
+constexpr const void *cmdParaComInAccumulationIDAdmin[] = {Quote, option.adminStorageID, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInAccumulationIDAdmin[] = {AdminMode, AdminStoredSettings,
+                                                                       NotEmpty(option.adminStorageID)};
+constexpr CmdParaTable symParaComInAccumulationIDAdmin = Values(cmdParaComInAccumulationIDAdmin);
+constexpr ComparationTable comparationComInAccumulationIDAdmin = Conditions(comparationItemComInAccumulationIDAdmin);
 
-static constexpr auto &prtfmtStrComInAccumulationDocumentNameAdmin = prtfmtStrAccumulationDocumentName;
-const ComparationItem comparationItemComInAccumulationDocumentNameAdmin[] = {AdminMode, AdminStoredSettings,
-                                                                             NotEmpty(StdDocumentName)};
-static ComparationTable comparationComInAccumulationDocumentNameAdmin;
+// @ACNA: the name under which the document is stored
+constexpr char prtfmtStrComInAccumulationDocumentNameAdmin[] = "@PJL SET JOBATTR=%c@ACNA=%s%c%c%c";
+constexpr const void *cmdParaComInAccumulationDocumentNameAdmin[] = {Quote, StdDocumentName, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInAccumulationDocumentNameAdmin[] = {AdminMode, AdminStoredSettings,
+                                                                                 NotEmpty(StdDocumentName)};
+constexpr CmdParaTable symParaComInAccumulationDocumentNameAdmin = Values(cmdParaComInAccumulationDocumentNameAdmin);
+constexpr ComparationTable comparationComInAccumulationDocumentNameAdmin =
+    Conditions(comparationItemComInAccumulationDocumentNameAdmin);
 
-static constexpr auto &prtfmtStrComInAccumulationPasswordAdmin = prtfmtStrComInAccumulationPassword;
-const void *const cmdParaComInAccumulationPasswordAdmin[] = {&CTRLSym_DOUBLE, option.adminStoragePassword,
-                                                             &CTRLSym_DOUBLE, &CTRLSym_CR, &CTRLSym_LF};
-const ComparationItem comparationItemComInAccumulationPasswordAdmin[] = {
+// @ACEP: the storage's password
+constexpr char prtfmtStrComInAccumulationPasswordAdmin[] = "@PJL SET JOBATTR=%c@ACEP=%s%c%c%c";
+constexpr const void *cmdParaComInAccumulationPasswordAdmin[] = {Quote, option.adminStoragePassword, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInAccumulationPasswordAdmin[] = {
     AdminMode, AdminStoredSettings, NotEmpty(option.adminStorageID), NotEmpty(option.adminStoragePassword)};
-static CmdParaTable symParaComInAccumulationPasswordAdmin;
-static ComparationTable comparationComInAccumulationPasswordAdmin;
+constexpr CmdParaTable symParaComInAccumulationPasswordAdmin = Values(cmdParaComInAccumulationPasswordAdmin);
+constexpr ComparationTable comparationComInAccumulationPasswordAdmin =
+    Conditions(comparationItemComInAccumulationPasswordAdmin);
 
-static constexpr auto &prtfmtStrComInAccumulationPasswordNULLAdmin = prtfmtStrComInAccumulationPasswordNULL;
-const ComparationItem comparationItemComInAccumulationPasswordNULLAdmin[] = {
+constexpr char prtfmtStrComInAccumulationPasswordNULLAdmin[] = "@PJL SET JOBATTR=%c@ACEP=%c%c%c";
+constexpr const void *cmdParaComInAccumulationPasswordNULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemComInAccumulationPasswordNULLAdmin[] = {
     AdminMode, AdminStoredSettings, NotEmpty(option.adminStorageID), Empty(option.adminStoragePassword)};
-static ComparationTable comparationComInAccumulationPasswordNULLAdmin;
+constexpr CmdParaTable symParaComInAccumulationPasswordNULLAdmin = Values(cmdParaComInAccumulationPasswordNULLAdmin);
+constexpr ComparationTable comparationComInAccumulationPasswordNULLAdmin =
+    Conditions(comparationItemComInAccumulationPasswordNULLAdmin);
 
-// What was entered for this job: formats and values are those of the common lines.
-const ComparationItem comparationItemJobInUseEnterNameAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
-                                                                 NotEmpty(option.inputUserID), NameShown};
-static ComparationTable comparationJobInUseEnterNameAdmin;
+// What was entered for this job.
 
-const ComparationItem comparationItemJobInUseEnterName1Admin[] = {AdminMode, AdminJobSettings, JobIdentity, NameHidden};
-static ComparationTable comparationJobInUseEnterName1Admin;
+// @JOAU: the user to authenticate
+constexpr char prtfmtStrJobInUseEnterName[] = "@PJL SET JOBATTR=%c@JOAU=%s%c%c%c";
+constexpr const void *cmdParaJobInUseEnterNameAdmin[] = {Quote, option.inputUserID, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInUseEnterNameAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
+                                                                     NotEmpty(option.inputUserID), NameShown};
+constexpr CmdParaTable symParaJobInUseEnterNameAdmin = Values(cmdParaJobInUseEnterNameAdmin);
+constexpr ComparationTable comparationJobInUseEnterNameAdmin = Conditions(comparationItemJobInUseEnterNameAdmin);
 
-const ComparationItem comparationItemJobInUseEnterName2Admin[] = {AdminMode, AdminJobSettings, JobIdentity,
-                                                                  Empty(option.inputUserID), NameShown};
-static ComparationTable comparationJobInUseEnterName2Admin;
+constexpr char prtfmtStrJobInUseEnterName1[] = "@PJL SET JOBATTR=%c@JOAU=UnknownUser%c%c%c";
+constexpr const void *cmdParaJobInUseEnterName1Admin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInUseEnterName1Admin[] = {AdminMode, AdminJobSettings, JobIdentity,
+                                                                      NameHidden};
+constexpr CmdParaTable symParaJobInUseEnterName1Admin = Values(cmdParaJobInUseEnterName1Admin);
+constexpr ComparationTable comparationJobInUseEnterName1Admin = Conditions(comparationItemJobInUseEnterName1Admin);
 
-const ComparationItem comparationItemJobInUserEnterPasswordAdmin[] = {
+constexpr char prtfmtStrJobInUseEnterName2[] = "@PJL SET JOBATTR=%c@JOAU=UnknownUser%c%c%c";
+constexpr const void *cmdParaJobInUseEnterName2Admin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInUseEnterName2Admin[] = {AdminMode, AdminJobSettings, JobIdentity,
+                                                                      Empty(option.inputUserID), NameShown};
+constexpr CmdParaTable symParaJobInUseEnterName2Admin = Values(cmdParaJobInUseEnterName2Admin);
+constexpr ComparationTable comparationJobInUseEnterName2Admin = Conditions(comparationItemJobInUseEnterName2Admin);
+
+// @JOEP: the user's password
+constexpr char prtfmtStrJobInUserEnterPassword[] = "@PJL SET JOBATTR=%c@JOEP=%s%c%c%c";
+constexpr const void *cmdParaJobInUserEnterPasswordAdmin[] = {Quote, option.inputUserPassword, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInUserEnterPasswordAdmin[] = {
     AdminMode, AdminJobSettings, JobPassword, NotEmpty(option.inputUserID), NotEmpty(option.inputUserPassword),
     NameShown};
-static ComparationTable comparationJobInUserEnterPasswordAdmin;
+constexpr CmdParaTable symParaJobInUserEnterPasswordAdmin = Values(cmdParaJobInUserEnterPasswordAdmin);
+constexpr ComparationTable comparationJobInUserEnterPasswordAdmin =
+    Conditions(comparationItemJobInUserEnterPasswordAdmin);
 
-const ComparationItem comparationItemJobInUserEnterPassword1Admin[] = {AdminMode, AdminJobSettings, JobPassword,
-                                                                       NameHidden};
-static ComparationTable comparationJobInUserEnterPassword1Admin;
+constexpr char prtfmtStrJobInUserEnterPassword1[] = "@PJL SET JOBATTR=%c@JOEP=%c%c%c";
+constexpr const void *cmdParaJobInUserEnterPassword1Admin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInUserEnterPassword1Admin[] = {AdminMode, AdminJobSettings, JobPassword,
+                                                                           NameHidden};
+constexpr CmdParaTable symParaJobInUserEnterPassword1Admin = Values(cmdParaJobInUserEnterPassword1Admin);
+constexpr ComparationTable comparationJobInUserEnterPassword1Admin =
+    Conditions(comparationItemJobInUserEnterPassword1Admin);
 
-const ComparationItem comparationItemJobInUserEnterPasswordNULLAdmin[] = {
+constexpr char prtfmtStrJobInUserEnterPasswordNULL[] = "@PJL SET JOBATTR=%c@JOEP=%c%c%c";
+constexpr const void *cmdParaJobInUserEnterPasswordNULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInUserEnterPasswordNULLAdmin[] = {
     AdminMode, AdminJobSettings, JobPassword, Empty(option.inputUserPassword), NotEmpty(option.inputUserID), NameShown};
-static ComparationTable comparationJobInUserEnterPasswordNULLAdmin;
+constexpr CmdParaTable symParaJobInUserEnterPasswordNULLAdmin = Values(cmdParaJobInUserEnterPasswordNULLAdmin);
+constexpr ComparationTable comparationJobInUserEnterPasswordNULLAdmin =
+    Conditions(comparationItemJobInUserEnterPasswordNULLAdmin);
 
-const ComparationItem comparationItemJobInUserEnterPassword1NULLAdmin[] = {AdminMode, AdminJobSettings, JobPassword,
-                                                                           Empty(option.inputUserID), NameShown};
-static ComparationTable comparationJobInUserEnterPassword1NULLAdmin;
+constexpr char prtfmtStrJobInUserEnterPassword1NULL[] = "@PJL SET JOBATTR=%c@JOEP=%c%c%c";
+constexpr const void *cmdParaJobInUserEnterPassword1NULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInUserEnterPassword1NULLAdmin[] = {AdminMode, AdminJobSettings, JobPassword,
+                                                                               Empty(option.inputUserID), NameShown};
+constexpr CmdParaTable symParaJobInUserEnterPassword1NULLAdmin = Values(cmdParaJobInUserEnterPassword1NULLAdmin);
+constexpr ComparationTable comparationJobInUserEnterPassword1NULLAdmin =
+    Conditions(comparationItemJobInUserEnterPassword1NULLAdmin);
 
-const ComparationItem comparationItemJobInDomainNameAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
-                                                               NotEmpty(option.inputDomainName)};
-static ComparationTable comparationJobInDomainNameAdmin;
+// @JOAD: the user's domain
+constexpr char prtfmtStrJobInDomainName[] = "@PJL SET JOBATTR=%c@JOAD=%s%c%c%c";
+constexpr const void *cmdParaJobInDomainNameAdmin[] = {Quote, option.inputDomainName, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInDomainNameAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
+                                                                   NotEmpty(option.inputDomainName)};
+constexpr CmdParaTable symParaJobInDomainNameAdmin = Values(cmdParaJobInDomainNameAdmin);
+constexpr ComparationTable comparationJobInDomainNameAdmin = Conditions(comparationItemJobInDomainNameAdmin);
 
-const ComparationItem comparationItemJobInAccountAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
-                                                            NotEmpty(option.inputAccountID), NameShown};
-static ComparationTable comparationJobInAccountAdmin;
+// @DAID: the account
+constexpr char prtfmtStrJobInAccount[] = "@PJL SET JOBATTR=%c@DAID=%s%c%c%c";
+constexpr const void *cmdParaJobInAccountAdmin[] = {Quote, option.inputAccountID, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccountAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
+                                                                NotEmpty(option.inputAccountID), NameShown};
+constexpr CmdParaTable symParaJobInAccountAdmin = Values(cmdParaJobInAccountAdmin);
+constexpr ComparationTable comparationJobInAccountAdmin = Conditions(comparationItemJobInAccountAdmin);
 
-const ComparationItem comparationItemJobInAccount1Admin[] = {AdminMode, AdminJobSettings, JobIdentity,
-                                                             NotEmpty(option.inputAccountID), NameHidden};
-static ComparationTable comparationJobInAccount1Admin;
+constexpr char prtfmtStrJobInAccount1[] = "@PJL SET JOBATTR=%c@DAID=%c%c%c";
+constexpr const void *cmdParaJobInAccount1Admin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccount1Admin[] = {AdminMode, AdminJobSettings, JobIdentity,
+                                                                 NotEmpty(option.inputAccountID), NameHidden};
+constexpr CmdParaTable symParaJobInAccount1Admin = Values(cmdParaJobInAccount1Admin);
+constexpr ComparationTable comparationJobInAccount1Admin = Conditions(comparationItemJobInAccount1Admin);
 
-const ComparationItem comparationItemJobInAccountNULLAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
-                                                                Empty(option.inputAccountID)};
-static ComparationTable comparationJobInAccountNULLAdmin;
+constexpr char prtfmtStrJobInAccountNULL[] = "@PJL SET JOBATTR=%c@DAID=%c%c%c";
+constexpr const void *cmdParaJobInAccountNULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccountNULLAdmin[] = {AdminMode, AdminJobSettings, JobIdentity,
+                                                                    Empty(option.inputAccountID)};
+constexpr CmdParaTable symParaJobInAccountNULLAdmin = Values(cmdParaJobInAccountNULLAdmin);
+constexpr ComparationTable comparationJobInAccountNULLAdmin = Conditions(comparationItemJobInAccountNULLAdmin);
 
-const ComparationItem comparationItemJobInAccountNULL3Admin[] = {AdminMode, AdminJobSettings, JobStorage, AnyInfoList};
-static ComparationTable comparationJobInAccountNULL3Admin;
+constexpr char prtfmtStrJobInAccountNULL3[] = "@PJL SET JOBATTR=%c@DAID=%c%c%c";
+constexpr const void *cmdParaJobInAccountNULL3Admin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccountNULL3Admin[] = {AdminMode, AdminJobSettings, JobStorage,
+                                                                     AnyInfoList};
+constexpr CmdParaTable symParaJobInAccountNULL3Admin = Values(cmdParaJobInAccountNULL3Admin);
+constexpr ComparationTable comparationJobInAccountNULL3Admin = Conditions(comparationItemJobInAccountNULL3Admin);
 
-const ComparationItem comparationItemJobInAccumulationIDAdmin[] = {AdminMode, AdminJobSettings, JobStorage,
-                                                                   NotEmpty(option.inputStorageID)};
-static ComparationTable comparationJobInAccumulationIDAdmin;
+// @ACID: the storage
+constexpr char prtfmtStrJobInAccumulationID[] = "@PJL SET JOBATTR=%c@ACID=%s%c%c%c";
+constexpr const void *cmdParaJobInAccumulationIDAdmin[] = {Quote, option.inputStorageID, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccumulationIDAdmin[] = {AdminMode, AdminJobSettings, JobStorage,
+                                                                       NotEmpty(option.inputStorageID)};
+constexpr CmdParaTable symParaJobInAccumulationIDAdmin = Values(cmdParaJobInAccumulationIDAdmin);
+constexpr ComparationTable comparationJobInAccumulationIDAdmin = Conditions(comparationItemJobInAccumulationIDAdmin);
 
-static constexpr auto &prtfmtStrJobInAccumulationDocumentName = prtfmtStrAccumulationDocumentName;
-const ComparationItem comparationItemJobInAccumulationDocumentNameAdmin[] = {AdminMode, AdminJobSettings,
-                                                                             NotEmpty(StdDocumentName)};
-static ComparationTable comparationJobInAccumulationDocumentNameAdmin;
+// @ACNA: the name under which the document is stored
+constexpr char prtfmtStrJobInAccumulationDocumentName[] = "@PJL SET JOBATTR=%c@ACNA=%s%c%c%c";
+constexpr const void *cmdParaJobInAccumulationDocumentNameAdmin[] = {Quote, StdDocumentName, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccumulationDocumentNameAdmin[] = {AdminMode, AdminJobSettings,
+                                                                                 NotEmpty(StdDocumentName)};
+constexpr CmdParaTable symParaJobInAccumulationDocumentNameAdmin = Values(cmdParaJobInAccumulationDocumentNameAdmin);
+constexpr ComparationTable comparationJobInAccumulationDocumentNameAdmin =
+    Conditions(comparationItemJobInAccumulationDocumentNameAdmin);
 
-const ComparationItem comparationItemJobInUserNameAccumulationAdmin[] = {AdminMode, AdminJobSettings, JobStorage};
-static ComparationTable comparationJobInUserNameAccumulationAdmin;
+// @JOAU: the user to authenticate
+constexpr char prtfmtStrJobInUserNameAccumulation[] = "@PJL SET JOBATTR=%c@JOAU=UnknownUser%c\n";
+constexpr const void *cmdParaJobInUserNameAccumulationAdmin[] = {Quote, Quote};
+constexpr ComparationItem comparationItemJobInUserNameAccumulationAdmin[] = {AdminMode, AdminJobSettings, JobStorage};
+constexpr CmdParaTable symParaJobInUserNameAccumulationAdmin = Values(cmdParaJobInUserNameAccumulationAdmin);
+constexpr ComparationTable comparationJobInUserNameAccumulationAdmin =
+    Conditions(comparationItemJobInUserNameAccumulationAdmin);
 
-const ComparationItem comparationItemJobInUserPasswordAccumulationAdmin[] = {AdminMode, AdminJobSettings, JobStorage};
-static ComparationTable comparationJobInUserPasswordAccumulationAdmin;
+// @JOEP: the user's password
+constexpr char prtfmtStrJobInUserPasswordAccumulation[] = "@PJL SET JOBATTR=%c@JOEP=%c\n";
+constexpr const void *cmdParaJobInUserPasswordAccumulationAdmin[] = {Quote, Quote};
+constexpr ComparationItem comparationItemJobInUserPasswordAccumulationAdmin[] = {AdminMode, AdminJobSettings,
+                                                                                 JobStorage};
+constexpr CmdParaTable symParaJobInUserPasswordAccumulationAdmin = Values(cmdParaJobInUserPasswordAccumulationAdmin);
+constexpr ComparationTable comparationJobInUserPasswordAccumulationAdmin =
+    Conditions(comparationItemJobInUserPasswordAccumulationAdmin);
 
-const ComparationItem comparationItemJobInAccumulationPasswordAdmin[] = {
+// @ACEP: the storage's password
+constexpr char prtfmtStrJobInAccumulationPassword[] = "@PJL SET JOBATTR=%c@ACEP=%s%c%c%c";
+constexpr const void *cmdParaJobInAccumulationPasswordAdmin[] = {Quote, option.inputStoragePassword, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccumulationPasswordAdmin[] = {
     AdminMode, AdminJobSettings, JobStorage, NotEmpty(option.inputStorageID), NotEmpty(option.inputStoragePassword)};
-static ComparationTable comparationJobInAccumulationPasswordAdmin;
+constexpr CmdParaTable symParaJobInAccumulationPasswordAdmin = Values(cmdParaJobInAccumulationPasswordAdmin);
+constexpr ComparationTable comparationJobInAccumulationPasswordAdmin =
+    Conditions(comparationItemJobInAccumulationPasswordAdmin);
 
-const ComparationItem comparationItemJobInAccumulationPasswordNULLAdmin[] = {
+constexpr char prtfmtStrJobInAccumulationPasswordNULL[] = "@PJL SET JOBATTR=%c@ACEP=%c%c%c";
+constexpr const void *cmdParaJobInAccumulationPasswordNULLAdmin[] = {Quote, Quote, CR, LF};
+constexpr ComparationItem comparationItemJobInAccumulationPasswordNULLAdmin[] = {
     AdminMode, AdminJobSettings, JobStorage, NotEmpty(option.inputStorageID), Empty(option.inputStoragePassword)};
-static ComparationTable comparationJobInAccumulationPasswordNULLAdmin;
+constexpr CmdParaTable symParaJobInAccumulationPasswordNULLAdmin = Values(cmdParaJobInAccumulationPasswordNULLAdmin);
+constexpr ComparationTable comparationJobInAccumulationPasswordNULLAdmin =
+    Conditions(comparationItemJobInAccumulationPasswordNULLAdmin);
 
 const FmtTableRow JBAFmtTableAdmin[] = {
-    {prtfmtStrComInTypeUseLoginNameAdmin, &symParaComInTypeUseLoginName, &comparationComInTypeUseLoginNameAdmin},
-    {prtfmtStrComInTypeUseLoginNameAdmin1, &symParaComInTypeUseLoginName1, &comparationComInTypeUseLoginNameAdmin1},
-    {prtfmtStrComInTypeUseLoginNameAdmin2, &symParaComInTypeUseLoginName2, &comparationComInTypeUseLoginNameAdmin2},
-    {prtfmtStrComInTypeUseLoginNameAdmin3, &symParaComInTypeUseLoginName3, &comparationComInTypeUseLoginNameAdmin3},
-    {prtfmtStrComInTypeUseLoginNameAdmin4, &symParaComInTypeUseLoginName4, &comparationComInTypeUseLoginNameAdmin4},
-    {prtfmtStrComInTypeUseEnterNameAdmin, &symParaComInTypeUseEnterNameAdmin, &comparationComInTypeUseEnterNameAdmin},
-    {prtfmtStrComInUserEnterPassword1Admin, &symParaComInUserEnterPassword1Admin,
-     &comparationComInUserEnterPassword1Admin},
-    {prtfmtStrComInUserEnterPassword1NULLAdmin, &symParaComInUserEnterPassword1NULL,
-     &comparationComInUserEnterPassword1NULLAdmin},
-    {prtfmtStrComInUserEnterPassword2Admin, &symParaComInUserEnterPassword2Admin,
-     &comparationComInUserEnterPassword2Admin},
-    {prtfmtStrComInUserEnterPassword2NULLAdmin, &symParaComInUserEnterPassword2NULL,
-     &comparationComInUserEnterPassword2NULLAdmin},
-    {prtfmtStrComInTypeDomainNameAdmin, &symParaComInTypeDomainNameAdmin, &comparationComInTypeDomainNameAdmin},
-    {prtfmtStrComInAccountAdmin, &symParaComInAccountAdmin, &comparationComInAccountAdmin},
-    {prtfmtStrComInAccountNULLAdmin, &symParaComInAccountNULL, &comparationComInAccountNULLAdmin},
-    {prtfmtStrComInAccumulationIDAdmin, &symParaComInAccumulationIDAdmin, &comparationComInAccumulationIDAdmin},
-    {prtfmtStrComInAccumulationDocumentNameAdmin, &symParaAccumulationDocumentName,
-     &comparationComInAccumulationDocumentNameAdmin},
-    {prtfmtStrComInAccumulationPasswordAdmin, &symParaComInAccumulationPasswordAdmin,
-     &comparationComInAccumulationPasswordAdmin},
-    {prtfmtStrComInAccumulationPasswordNULLAdmin, &symParaComInAccumulationPasswordNULL,
-     &comparationComInAccumulationPasswordNULLAdmin},
-    {prtfmtStrJobInUseEnterName, &symParaJobInUseEnterName, &comparationJobInUseEnterNameAdmin},
-    {prtfmtStrJobInUseEnterName1, &symParaJobInUseEnterName1, &comparationJobInUseEnterName1Admin},
-    {prtfmtStrJobInUseEnterName2, &symParaJobInUseEnterName2, &comparationJobInUseEnterName2Admin},
-    {prtfmtStrJobInUserEnterPassword, &symParaJobInUserEnterPassword, &comparationJobInUserEnterPasswordAdmin},
-    {prtfmtStrJobInUserEnterPassword1, &symParaJobInUserEnterPassword1, &comparationJobInUserEnterPassword1Admin},
-    {prtfmtStrJobInUserEnterPasswordNULL, &symParaJobInUserEnterPasswordNULL,
-     &comparationJobInUserEnterPasswordNULLAdmin},
-    {prtfmtStrJobInUserEnterPassword1NULL, &symParaJobInUserEnterPassword1NULL,
-     &comparationJobInUserEnterPassword1NULLAdmin},
-    {prtfmtStrJobInDomainName, &symParaJobInDomainName, &comparationJobInDomainNameAdmin},
-    {prtfmtStrJobInAccount, &symParaJobInAccount, &comparationJobInAccountAdmin},
-    {prtfmtStrJobInAccount1, &symParaJobInAccount1, &comparationJobInAccount1Admin},
-    {prtfmtStrJobInAccountNULL, &symParaJobInAccountNULL, &comparationJobInAccountNULLAdmin},
-    {prtfmtStrJobInAccountNULL3, &symParaJobInAccountNULL3, &comparationJobInAccountNULL3Admin},
-    {prtfmtStrJobInAccumulationID, &symParaJobInAccumulationID, &comparationJobInAccumulationIDAdmin},
-    {prtfmtStrJobInAccumulationDocumentName, &symParaAccumulationDocumentName,
-     &comparationJobInAccumulationDocumentNameAdmin},
-    {prtfmtStrJobInUserNameAccumulation, &symParaJobInUserNameAccumulation, &comparationJobInUserNameAccumulationAdmin},
-    {prtfmtStrJobInUserPasswordAccumulation, &symParaJobInUserPasswordAccumulation,
-     &comparationJobInUserPasswordAccumulationAdmin},
-    {prtfmtStrJobInAccumulationPassword, &symParaJobInAccumulationPassword, &comparationJobInAccumulationPasswordAdmin},
-    {prtfmtStrJobInAccumulationPasswordNULL, &symParaJobInAccumulationPasswordNULL,
-     &comparationJobInAccumulationPasswordNULLAdmin},
+    Command(prtfmtStrComInTypeUseLoginNameAdmin, &symParaComInTypeUseLoginNameAdmin,
+            &comparationComInTypeUseLoginNameAdmin),
+    Command(prtfmtStrComInTypeUseLoginNameAdmin1, &symParaComInTypeUseLoginNameAdmin1,
+            &comparationComInTypeUseLoginNameAdmin1),
+    Command(prtfmtStrComInTypeUseLoginNameAdmin2, &symParaComInTypeUseLoginNameAdmin2,
+            &comparationComInTypeUseLoginNameAdmin2),
+    Command(prtfmtStrComInTypeUseLoginNameAdmin3, &symParaComInTypeUseLoginNameAdmin3,
+            &comparationComInTypeUseLoginNameAdmin3),
+    Command(prtfmtStrComInTypeUseLoginNameAdmin4, &symParaComInTypeUseLoginNameAdmin4,
+            &comparationComInTypeUseLoginNameAdmin4),
+    Command(prtfmtStrComInTypeUseEnterNameAdmin, &symParaComInTypeUseEnterNameAdmin,
+            &comparationComInTypeUseEnterNameAdmin),
+    Command(prtfmtStrComInUserEnterPassword1Admin, &symParaComInUserEnterPassword1Admin,
+            &comparationComInUserEnterPassword1Admin),
+    Command(prtfmtStrComInUserEnterPassword1NULLAdmin, &symParaComInUserEnterPassword1NULLAdmin,
+            &comparationComInUserEnterPassword1NULLAdmin),
+    Command(prtfmtStrComInUserEnterPassword2Admin, &symParaComInUserEnterPassword2Admin,
+            &comparationComInUserEnterPassword2Admin),
+    Command(prtfmtStrComInUserEnterPassword2NULLAdmin, &symParaComInUserEnterPassword2NULLAdmin,
+            &comparationComInUserEnterPassword2NULLAdmin),
+    Command(prtfmtStrComInTypeDomainNameAdmin, &symParaComInTypeDomainNameAdmin, &comparationComInTypeDomainNameAdmin),
+    Command(prtfmtStrComInAccountAdmin, &symParaComInAccountAdmin, &comparationComInAccountAdmin),
+    Command(prtfmtStrComInAccountNULLAdmin, &symParaComInAccountNULLAdmin, &comparationComInAccountNULLAdmin),
+    Command(prtfmtStrComInAccumulationIDAdmin, &symParaComInAccumulationIDAdmin, &comparationComInAccumulationIDAdmin),
+    Command(prtfmtStrComInAccumulationDocumentNameAdmin, &symParaComInAccumulationDocumentNameAdmin,
+            &comparationComInAccumulationDocumentNameAdmin),
+    Command(prtfmtStrComInAccumulationPasswordAdmin, &symParaComInAccumulationPasswordAdmin,
+            &comparationComInAccumulationPasswordAdmin),
+    Command(prtfmtStrComInAccumulationPasswordNULLAdmin, &symParaComInAccumulationPasswordNULLAdmin,
+            &comparationComInAccumulationPasswordNULLAdmin),
+    Command(prtfmtStrJobInUseEnterName, &symParaJobInUseEnterNameAdmin, &comparationJobInUseEnterNameAdmin),
+    Command(prtfmtStrJobInUseEnterName1, &symParaJobInUseEnterName1Admin, &comparationJobInUseEnterName1Admin),
+    Command(prtfmtStrJobInUseEnterName2, &symParaJobInUseEnterName2Admin, &comparationJobInUseEnterName2Admin),
+    Command(prtfmtStrJobInUserEnterPassword, &symParaJobInUserEnterPasswordAdmin,
+            &comparationJobInUserEnterPasswordAdmin),
+    Command(prtfmtStrJobInUserEnterPassword1, &symParaJobInUserEnterPassword1Admin,
+            &comparationJobInUserEnterPassword1Admin),
+    Command(prtfmtStrJobInUserEnterPasswordNULL, &symParaJobInUserEnterPasswordNULLAdmin,
+            &comparationJobInUserEnterPasswordNULLAdmin),
+    Command(prtfmtStrJobInUserEnterPassword1NULL, &symParaJobInUserEnterPassword1NULLAdmin,
+            &comparationJobInUserEnterPassword1NULLAdmin),
+    Command(prtfmtStrJobInDomainName, &symParaJobInDomainNameAdmin, &comparationJobInDomainNameAdmin),
+    Command(prtfmtStrJobInAccount, &symParaJobInAccountAdmin, &comparationJobInAccountAdmin),
+    Command(prtfmtStrJobInAccount1, &symParaJobInAccount1Admin, &comparationJobInAccount1Admin),
+    Command(prtfmtStrJobInAccountNULL, &symParaJobInAccountNULLAdmin, &comparationJobInAccountNULLAdmin),
+    Command(prtfmtStrJobInAccountNULL3, &symParaJobInAccountNULL3Admin, &comparationJobInAccountNULL3Admin),
+    Command(prtfmtStrJobInAccumulationID, &symParaJobInAccumulationIDAdmin, &comparationJobInAccumulationIDAdmin),
+    Command(prtfmtStrJobInAccumulationDocumentName, &symParaJobInAccumulationDocumentNameAdmin,
+            &comparationJobInAccumulationDocumentNameAdmin),
+    Command(prtfmtStrJobInUserNameAccumulation, &symParaJobInUserNameAccumulationAdmin,
+            &comparationJobInUserNameAccumulationAdmin),
+    Command(prtfmtStrJobInUserPasswordAccumulation, &symParaJobInUserPasswordAccumulationAdmin,
+            &comparationJobInUserPasswordAccumulationAdmin),
+    Command(prtfmtStrJobInAccumulationPassword, &symParaJobInAccumulationPasswordAdmin,
+            &comparationJobInAccumulationPasswordAdmin),
+    Command(prtfmtStrJobInAccumulationPasswordNULL, &symParaJobInAccumulationPasswordNULLAdmin,
+            &comparationJobInAccumulationPasswordNULLAdmin),
 };
 const int32_t JBAFmtTableAdminNum = static_cast<int32_t>(std::size(JBAFmtTableAdmin));
-
-void JBAInitializeCmdParaTableForAdmin()
-{
-    InitializeCmdParaTable(symParaComInTypeUseEnterNameAdmin, cmdParaComInTypeUseEnterNameAdmin);
-    InitializeCmdParaTable(symParaComInUserEnterPassword1Admin, cmdParaComInUserEnterPassword1Admin);
-    InitializeCmdParaTable(symParaComInUserEnterPassword2Admin, cmdParaComInUserEnterPassword2Admin);
-    InitializeCmdParaTable(symParaComInTypeDomainNameAdmin, cmdParaComInTypeDomainNameAdmin);
-    InitializeCmdParaTable(symParaComInAccountAdmin, cmdParaComInAccountAdmin);
-    InitializeCmdParaTable(symParaComInAccumulationIDAdmin, cmdParaComInAccumulationIDAdmin);
-    InitializeCmdParaTable(symParaComInAccumulationPasswordAdmin, cmdParaComInAccumulationPasswordAdmin);
-}
-
-void JBAInitializeCaparationTableForAdmin()
-{
-    InitializeComparationTable(comparationComInTypeUseLoginNameAdmin, comparationItemComInTypeUseLoginNameAdmin);
-    InitializeComparationTable(comparationComInTypeUseLoginNameAdmin1, comparationItemComInTypeUseLoginNameAdmin1);
-    InitializeComparationTable(comparationComInTypeUseLoginNameAdmin2, comparationItemComInTypeUseLoginNameAdmin2);
-    InitializeComparationTable(comparationComInTypeUseLoginNameAdmin3, comparationItemComInTypeUseLoginNameAdmin3);
-    InitializeComparationTable(comparationComInTypeUseLoginNameAdmin4, comparationItemComInTypeUseLoginNameAdmin4);
-    InitializeComparationTable(comparationComInTypeUseEnterNameAdmin, comparationItemComInTypeUseEnterNameAdmin);
-    InitializeComparationTable(comparationComInUserEnterPassword1Admin, comparationItemComInUserEnterPassword1Admin);
-    InitializeComparationTable(comparationComInUserEnterPassword1NULLAdmin,
-                               comparationItemComInUserEnterPassword1NULLAdmin);
-    InitializeComparationTable(comparationComInUserEnterPassword2Admin, comparationItemComInUserEnterPassword2Admin);
-    InitializeComparationTable(comparationComInUserEnterPassword2NULLAdmin,
-                               comparationItemComInUserEnterPassword2NULLAdmin);
-    InitializeComparationTable(comparationComInTypeDomainNameAdmin, comparationItemComInTypeDomainNameAdmin);
-    InitializeComparationTable(comparationComInAccountAdmin, comparationItemComInAccountAdmin);
-    InitializeComparationTable(comparationComInAccountNULLAdmin, comparationItemComInAccountNULLAdmin);
-    InitializeComparationTable(comparationComInAccumulationIDAdmin, comparationItemComInAccumulationIDAdmin);
-    InitializeComparationTable(comparationComInAccumulationDocumentNameAdmin,
-                               comparationItemComInAccumulationDocumentNameAdmin);
-    InitializeComparationTable(comparationComInAccumulationPasswordAdmin,
-                               comparationItemComInAccumulationPasswordAdmin);
-    InitializeComparationTable(comparationComInAccumulationPasswordNULLAdmin,
-                               comparationItemComInAccumulationPasswordNULLAdmin);
-    InitializeComparationTable(comparationJobInUseEnterNameAdmin, comparationItemJobInUseEnterNameAdmin);
-    InitializeComparationTable(comparationJobInUseEnterName1Admin, comparationItemJobInUseEnterName1Admin);
-    InitializeComparationTable(comparationJobInUseEnterName2Admin, comparationItemJobInUseEnterName2Admin);
-    InitializeComparationTable(comparationJobInUserEnterPasswordAdmin, comparationItemJobInUserEnterPasswordAdmin);
-    InitializeComparationTable(comparationJobInUserEnterPassword1Admin, comparationItemJobInUserEnterPassword1Admin);
-    InitializeComparationTable(comparationJobInUserEnterPasswordNULLAdmin,
-                               comparationItemJobInUserEnterPasswordNULLAdmin);
-    InitializeComparationTable(comparationJobInUserEnterPassword1NULLAdmin,
-                               comparationItemJobInUserEnterPassword1NULLAdmin);
-    InitializeComparationTable(comparationJobInDomainNameAdmin, comparationItemJobInDomainNameAdmin);
-    InitializeComparationTable(comparationJobInAccountAdmin, comparationItemJobInAccountAdmin);
-    InitializeComparationTable(comparationJobInAccount1Admin, comparationItemJobInAccount1Admin);
-    InitializeComparationTable(comparationJobInAccountNULLAdmin, comparationItemJobInAccountNULLAdmin);
-    InitializeComparationTable(comparationJobInAccountNULL3Admin, comparationItemJobInAccountNULL3Admin);
-    InitializeComparationTable(comparationJobInAccumulationIDAdmin, comparationItemJobInAccumulationIDAdmin);
-    InitializeComparationTable(comparationJobInAccumulationDocumentNameAdmin,
-                               comparationItemJobInAccumulationDocumentNameAdmin);
-    InitializeComparationTable(comparationJobInUserNameAccumulationAdmin,
-                               comparationItemJobInUserNameAccumulationAdmin);
-    InitializeComparationTable(comparationJobInUserPasswordAccumulationAdmin,
-                               comparationItemJobInUserPasswordAccumulationAdmin);
-    InitializeComparationTable(comparationJobInAccumulationPasswordAdmin,
-                               comparationItemJobInAccumulationPasswordAdmin);
-    InitializeComparationTable(comparationJobInAccumulationPasswordNULLAdmin,
-                               comparationItemJobInAccumulationPasswordNULLAdmin);
-}

@@ -1,4 +1,4 @@
-// The lines of the print type, in output order: format, values, conditions, descriptors.
+// The lines of the print type, in output order, and its tickets.
 // The printers take the hold lines with LF and those that carry a value with CR LF.
 #include "PrintType.h"
 
@@ -6,21 +6,22 @@
 
 #include <iterator>
 
-// Values of printType.
-const int32_t OptionSecurePrintNone = 1;
-const int32_t OptionSecurePrint = 2;
-const int32_t OptionSamplePrint = 3;
-const int32_t OptionDelayPrint = 4;
-const int32_t OptionMBN = 5;
+static constexpr PrintTypeOptions &option = zpjlOptionPrintType;
 
-// Values of documentNameType: the job's title, or a name typed in the dialog.
-const int32_t OptionDocumentNameAutoRetrieve = 1;
-const int32_t OptionDocumentNameEnterName = 2;
-
-// A user name of secure print must be shorter.
-const int32_t PRINTTYPEUSERNAMEDMAXLEN = 97;
-
-static constexpr const PrintTypeOptions &option = zpjlOptionPrintType;
+// The tickets. TypedText reads what the user typed as free text, in the encoding of the job.
+template <TicketGetter TypedText>
+static constexpr ticketData tickets[] = {
+    IntegerTicket(kPrintTypeTicketKey, option.printType),
+    TextTicket(kPrintTypeUserNameTicketKey, option.userName, TypedText),
+    PasswordTicket(kPrintTypePasswordTicketKey, option.password),
+    IntegerTicket(kDoucmentNameTypeTicketKey, option.documentNameType),
+    TextTicket(kDoucmentNameTicketKey, option.documentName, TypedText),
+    TextTicket(kPrintTyeDelayPrintTicketKey, option.delayPrintTime),
+    TextTicket(kPrintTyperMBNTicketKey, option.boxNumber),
+    PasswordTicket(kPrintTypeMBNPasswordTicketKey, option.boxPassword),
+};
+constinit const TicketTable PrintTypeticketData = tickets<GetTicketStringConvertedToPrtLang>;
+constinit const TicketTable PrintTypeticketDataForUTF8 = tickets<GetTicketStringConvertedToPrtLangForUTF8>;
 
 // Names are sent for every type that is not normal printing, also for none (-1).
 constexpr ComparationItem NotNormalPrint = NotEqual(option.printType, OptionSecurePrintNone);
@@ -31,150 +32,99 @@ constexpr ComparationItem NotDelayPrint = NotEqual(option.printType, OptionDelay
 constexpr ComparationItem MailboxPrint = Equal(option.printType, OptionMBN);
 constexpr ComparationItem NotMailboxPrint = NotEqual(option.printType, OptionMBN);
 
-const char prtfmtStrSecurePrint[] = "@PJL SET HOLD=STORE\n";
-const void *const cmdParaSecurePrint[] = {&CTRLSym_CR, &CTRLSym_LF}; // spare: the format ends the line
-const ComparationItem comparationItemSecurePrint[] = {SecurePrint, NotEmpty(option.userName),
-                                                      ShorterThan(option.userName, PRINTTYPEUSERNAMEDMAXLEN)};
-static CmdParaTable symParaSecurePrint;
-static ComparationTable comparationSecurePrint;
-constexpr FmtTableRow rowSecurePrint = {prtfmtStrSecurePrint, &symParaSecurePrint, &comparationSecurePrint};
+constexpr char prtfmtStrSecurePrint[] = "@PJL SET HOLD=STORE\n";
+constexpr const void *cmdParaSecurePrint[] = {CR, LF}; // declared and not used
+constexpr ComparationItem comparationItemSecurePrint[] = {SecurePrint, NotEmpty(option.userName),
+                                                          ShorterThan(option.userName, PRINTTYPEUSERNAMEDMAXLEN)};
+constexpr CmdParaTable symParaSecurePrint = Values(cmdParaSecurePrint);
+constexpr ComparationTable comparationSecurePrint = Conditions(comparationItemSecurePrint);
 
-const char prtfmtStrSecurePrintHold[] = "@PJL SET HOLDTYPE=PRIVATE\n";
-const ComparationItem comparationItemSecurePrintHold[] = {SecurePrint, NotEmpty(option.userName),
-                                                          NotEmpty(option.password), NotEmpty(option.password)};
-static ComparationTable comparationSecurePrintHold;
-constexpr FmtTableRow rowSecurePrintHold = {prtfmtStrSecurePrintHold, nullptr, &comparationSecurePrintHold};
+constexpr char prtfmtStrSecurePrintHold[] = "@PJL SET HOLDTYPE=PRIVATE\n";
+constexpr ComparationItem comparationItemSecurePrintHold[] = {SecurePrint, NotEmpty(option.userName),
+                                                              NotEmpty(option.password), NotEmpty(option.password)};
+constexpr ComparationTable comparationSecurePrintHold = Conditions(comparationItemSecurePrintHold);
 
-const char prtfmtStrSamplePrintHold[] = "@PJL SET HOLD=PROOF\n";
-const ComparationItem comparationItemSamplePrintHold[] = {SamplePrint, NotEmpty(option.userName)};
-static ComparationTable comparationSamplePrintHold;
-constexpr FmtTableRow rowSamplePrintHold = {prtfmtStrSamplePrintHold, nullptr, &comparationSamplePrintHold};
+constexpr char prtfmtStrSamplePrintHold[] = "@PJL SET HOLD=PROOF\n";
+constexpr ComparationItem comparationItemSamplePrintHold[] = {SamplePrint, NotEmpty(option.userName)};
+constexpr ComparationTable comparationSamplePrintHold = Conditions(comparationItemSamplePrintHold);
 
-const char prtfmtStrSMBPrintHold[] = "@PJL SET HOLD=BOXSTORE\n";
-const ComparationItem comparationItemSMBPrintHold[] = {MailboxPrint};
-static ComparationTable comparationSMBPrintHold;
-constexpr FmtTableRow rowSMBPrintHold = {prtfmtStrSMBPrintHold, nullptr, &comparationSMBPrintHold};
+constexpr char prtfmtStrSMBPrintHold[] = "@PJL SET HOLD=BOXSTORE\n";
+constexpr ComparationItem comparationItemSMBPrintHold[] = {MailboxPrint};
+constexpr ComparationTable comparationSMBPrintHold = Conditions(comparationItemSMBPrintHold);
 
-const char prtfmtStrMBNumberPrintHold[] = "@PJL SET HOLDTYPE=PRIVATE\n";
-const ComparationItem comparationItemMBNumberPrintHold[] = {MailboxPrint, NotEmpty(option.boxPassword)};
-static ComparationTable comparationMBNumberPrintHold;
-constexpr FmtTableRow rowMBNumberPrintHold = {prtfmtStrMBNumberPrintHold, nullptr, &comparationMBNumberPrintHold};
+constexpr char prtfmtStrMBNumberPrintHold[] = "@PJL SET HOLDTYPE=PRIVATE\n";
+constexpr ComparationItem comparationItemMBNumberPrintHold[] = {MailboxPrint, NotEmpty(option.boxPassword)};
+constexpr ComparationTable comparationMBNumberPrintHold = Conditions(comparationItemMBNumberPrintHold);
 
-const char prtfmtStrSMBEnterNumber[] = "@PJL SET BOXNUMBER=%s%c%c";
-const void *const cmdParaSMBEnterNumber[] = {option.boxNumber, &CTRLSym_CR, &CTRLSym_LF};
-const ComparationItem comparationItemSMBEnterNumber[] = {MailboxPrint};
-static CmdParaTable symParaSMBEnterNumber;
-static ComparationTable comparationSMBEnterNumber;
-constexpr FmtTableRow rowSMBEnterNumber = {prtfmtStrSMBEnterNumber, &symParaSMBEnterNumber, &comparationSMBEnterNumber};
+constexpr char prtfmtStrSMBEnterNumber[] = "@PJL SET BOXNUMBER=%s%c%c";
+constexpr const void *cmdParaSMBEnterNumber[] = {option.boxNumber, CR, LF};
+constexpr ComparationItem comparationItemSMBEnterNumber[] = {MailboxPrint};
+constexpr CmdParaTable symParaSMBEnterNumber = Values(cmdParaSMBEnterNumber);
+constexpr ComparationTable comparationSMBEnterNumber = Conditions(comparationItemSMBEnterNumber);
 
-const char prtfmtStrSMBPassword[] = "@PJL SET BOXENCRYPTKEY=%c%s%c%c%c";
-const void *const cmdParaSMBPassword[] = {&CTRLSym_DOUBLE, option.boxPassword, &CTRLSym_DOUBLE, &CTRLSym_CR,
-                                          &CTRLSym_LF};
-const ComparationItem comparationItemSMBPassword[] = {MailboxPrint, NotEmpty(option.boxPassword)};
-static CmdParaTable symParaSMBPassword;
-static ComparationTable comparationParaSMBPassword;
-constexpr FmtTableRow rowSMBPassword = {prtfmtStrSMBPassword, &symParaSMBPassword, &comparationParaSMBPassword};
+constexpr char prtfmtStrSMBPassword[] = "@PJL SET BOXENCRYPTKEY=%c%s%c%c%c";
+constexpr const void *cmdParaSMBPassword[] = {Quote, option.boxPassword, Quote, CR, LF};
+constexpr ComparationItem comparationItemSMBPassword[] = {MailboxPrint, NotEmpty(option.boxPassword)};
+constexpr CmdParaTable symParaSMBPassword = Values(cmdParaSMBPassword);
+constexpr ComparationTable comparationParaSMBPassword = Conditions(comparationItemSMBPassword);
 
-const char prtfmtStrSecurePrintUserName[] = "@PJL SET USERNAME=%c%s%c%c%c";
-const void *const cmdParaSecureUserName[] = {&CTRLSym_DOUBLE, option.userName, &CTRLSym_DOUBLE, &CTRLSym_CR,
-                                             &CTRLSym_LF};
-const ComparationItem comparationItemSecureUserName[] = {NotNormalPrint, NotDelayPrint, NotMailboxPrint,
-                                                         NotEmpty(option.userName)};
-static CmdParaTable symParaSecureUserName;
-static ComparationTable comparationSecureUserName;
-constexpr FmtTableRow rowSecurePrintUserName = {prtfmtStrSecurePrintUserName, &symParaSecureUserName,
-                                                &comparationSecureUserName};
+constexpr char prtfmtStrSecurePrintUserName[] = "@PJL SET USERNAME=%c%s%c%c%c";
+constexpr const void *cmdParaSecureUserName[] = {Quote, option.userName, Quote, CR, LF};
+constexpr ComparationItem comparationItemSecureUserName[] = {NotNormalPrint, NotDelayPrint, NotMailboxPrint,
+                                                             NotEmpty(option.userName)};
+constexpr CmdParaTable symParaSecureUserName = Values(cmdParaSecureUserName);
+constexpr ComparationTable comparationSecureUserName = Conditions(comparationItemSecureUserName);
 
-const char prtfmtStrSecurePrintPassword[] = "@PJL SET HOLDENCRYPTKEY=%c%s%c%c%c";
-const void *const cmdParaSecurePrintPassword[] = {&CTRLSym_DOUBLE, option.password, &CTRLSym_DOUBLE, &CTRLSym_CR,
-                                                  &CTRLSym_LF};
-const ComparationItem comparationItemSecurePrintPassword[] = {SecurePrint, NotEmpty(option.userName),
-                                                              NotEmpty(option.password)};
-static CmdParaTable symParaSecurePrintPassword;
-static ComparationTable comparationParaSecurePrintPassword;
-constexpr FmtTableRow rowSecurePrintPassword = {prtfmtStrSecurePrintPassword, &symParaSecurePrintPassword,
-                                                &comparationParaSecurePrintPassword};
+constexpr char prtfmtStrSecurePrintPassword[] = "@PJL SET HOLDENCRYPTKEY=%c%s%c%c%c";
+constexpr const void *cmdParaSecurePrintPassword[] = {Quote, option.password, Quote, CR, LF};
+constexpr ComparationItem comparationItemSecurePrintPassword[] = {SecurePrint, NotEmpty(option.userName),
+                                                                  NotEmpty(option.password)};
+constexpr CmdParaTable symParaSecurePrintPassword = Values(cmdParaSecurePrintPassword);
+constexpr ComparationTable comparationParaSecurePrintPassword = Conditions(comparationItemSecurePrintPassword);
 
-const char prtfmtStrDocumentNameAutoRetrieve[] = "@PJL SET JOBNAME=%c%s%c\r\n";
-const void *const cmdParaDocumentNameAutoRetrieve[] = {&CTRLSym_DOUBLE, PTStdDocumentName, &CTRLSym_DOUBLE};
-const ComparationItem comparationItemDocumentNameAutoRetrieve[] = {
+constexpr char prtfmtStrDocumentNameAutoRetrieve[] = "@PJL SET JOBNAME=%c%s%c\r\n";
+constexpr const void *cmdParaDocumentNameAutoRetrieve[] = {Quote, PTStdDocumentName, Quote};
+constexpr ComparationItem comparationItemDocumentNameAutoRetrieve[] = {
     NotNormalPrint, Equal(option.documentNameType, OptionDocumentNameAutoRetrieve), NotEmpty(PTStdDocumentName)};
-static CmdParaTable symParaDocumentNameAutoRetrieve;
-static ComparationTable comparationDocumentNameAutoRetrieve;
-constexpr FmtTableRow rowDocumentNameAutoRetrieve = {
-    prtfmtStrDocumentNameAutoRetrieve, &symParaDocumentNameAutoRetrieve, &comparationDocumentNameAutoRetrieve};
+constexpr CmdParaTable symParaDocumentNameAutoRetrieve = Values(cmdParaDocumentNameAutoRetrieve);
+constexpr ComparationTable comparationDocumentNameAutoRetrieve = Conditions(comparationItemDocumentNameAutoRetrieve);
 
-const char prtfmtStrDocumentNameEnterName[] = "@PJL SET JOBNAME=%c%s%c\r\n";
-const void *const cmdParaDocumentNameEnterName[] = {&CTRLSym_DOUBLE, option.documentName, &CTRLSym_DOUBLE};
-const ComparationItem comparationItemDocumentNameEnterName[] = {
+constexpr char prtfmtStrDocumentNameEnterName[] = "@PJL SET JOBNAME=%c%s%c\r\n";
+constexpr const void *cmdParaDocumentNameEnterName[] = {Quote, option.documentName, Quote};
+constexpr ComparationItem comparationItemDocumentNameEnterName[] = {
     NotNormalPrint, Equal(option.documentNameType, OptionDocumentNameEnterName), NotEmpty(option.documentName)};
-static CmdParaTable symParaDocumentNameEnterName;
-static ComparationTable comparationDocumentNameEnterName;
-constexpr FmtTableRow rowDocumentNameEnterName = {prtfmtStrDocumentNameEnterName, &symParaDocumentNameEnterName,
-                                                  &comparationDocumentNameEnterName};
+constexpr CmdParaTable symParaDocumentNameEnterName = Values(cmdParaDocumentNameEnterName);
+constexpr ComparationTable comparationDocumentNameEnterName = Conditions(comparationItemDocumentNameEnterName);
 
-const char prtfmtStrDelayPrint[] = "@PJL SET JOBATTR=%c@PRTM=%s%c\r\n";
-const void *const cmdParaDelayPrint[] = {&CTRLSym_DOUBLE, option.delayPrintTime, &CTRLSym_DOUBLE};
-const ComparationItem comparationItemDelayPrint[] = {DelayPrint, NotEmpty(option.delayPrintTime)};
-static CmdParaTable symParaDelayPrint;
-static ComparationTable comparationDelayPrint;
-constexpr FmtTableRow rowDelayPrint = {prtfmtStrDelayPrint, &symParaDelayPrint, &comparationDelayPrint};
+constexpr char prtfmtStrDelayPrint[] = "@PJL SET JOBATTR=%c@PRTM=%s%c\r\n";
+constexpr const void *cmdParaDelayPrint[] = {Quote, option.delayPrintTime, Quote};
+constexpr ComparationItem comparationItemDelayPrint[] = {DelayPrint, NotEmpty(option.delayPrintTime)};
+constexpr CmdParaTable symParaDelayPrint = Values(cmdParaDelayPrint);
+constexpr ComparationTable comparationDelayPrint = Conditions(comparationItemDelayPrint);
 
-// clang-format off
 const FmtTableRow PrintTypeFmtTable[] = {
-    rowSecurePrint,
-    rowSecurePrintHold,
-    rowSamplePrintHold,
-    rowSMBPrintHold,
-    rowMBNumberPrintHold,
-    rowSMBEnterNumber,
-    rowSMBPassword,
-    rowSecurePrintUserName,
-    rowSecurePrintPassword,
-    rowDocumentNameAutoRetrieve,
-    rowDocumentNameEnterName,
-    rowDelayPrint,
+    {prtfmtStrSecurePrint, &symParaSecurePrint, &comparationSecurePrint},
+    Command(prtfmtStrSecurePrintHold, nullptr, &comparationSecurePrintHold),
+    Command(prtfmtStrSamplePrintHold, nullptr, &comparationSamplePrintHold),
+    Command(prtfmtStrSMBPrintHold, nullptr, &comparationSMBPrintHold),
+    Command(prtfmtStrMBNumberPrintHold, nullptr, &comparationMBNumberPrintHold),
+    Command(prtfmtStrSMBEnterNumber, &symParaSMBEnterNumber, &comparationSMBEnterNumber),
+    Command(prtfmtStrSMBPassword, &symParaSMBPassword, &comparationParaSMBPassword),
+    Command(prtfmtStrSecurePrintUserName, &symParaSecureUserName, &comparationSecureUserName),
+    Command(prtfmtStrSecurePrintPassword, &symParaSecurePrintPassword, &comparationParaSecurePrintPassword),
+    Command(prtfmtStrDocumentNameAutoRetrieve, &symParaDocumentNameAutoRetrieve, &comparationDocumentNameAutoRetrieve),
+    Command(prtfmtStrDocumentNameEnterName, &symParaDocumentNameEnterName, &comparationDocumentNameEnterName),
+    Command(prtfmtStrDelayPrint, &symParaDelayPrint, &comparationDelayPrint),
 };
-// clang-format on
 const int32_t PrintTypeFmtTableNum = static_cast<int32_t>(std::size(PrintTypeFmtTable));
 
-// clang-format off
 const FmtTableRow PrintTypeFmtPartTable[] = {
-    rowSecurePrint,
-    rowSecurePrintHold,
-    rowSamplePrintHold,
-    rowSecurePrintUserName,
-    rowSecurePrintPassword,
-    rowDocumentNameAutoRetrieve,
-    rowDocumentNameEnterName,
+    {prtfmtStrSecurePrint, &symParaSecurePrint, &comparationSecurePrint},
+    Command(prtfmtStrSecurePrintHold, nullptr, &comparationSecurePrintHold),
+    Command(prtfmtStrSamplePrintHold, nullptr, &comparationSamplePrintHold),
+    Command(prtfmtStrSecurePrintUserName, &symParaSecureUserName, &comparationSecureUserName),
+    Command(prtfmtStrSecurePrintPassword, &symParaSecurePrintPassword, &comparationParaSecurePrintPassword),
+    Command(prtfmtStrDocumentNameAutoRetrieve, &symParaDocumentNameAutoRetrieve, &comparationDocumentNameAutoRetrieve),
+    Command(prtfmtStrDocumentNameEnterName, &symParaDocumentNameEnterName, &comparationDocumentNameEnterName),
 };
-// clang-format on
 const int32_t PrintTypeFmtPartTableNum = static_cast<int32_t>(std::size(PrintTypeFmtPartTable));
-
-void PrintTypeInitializeCmdParaTable()
-{
-    InitializeCmdParaTable(symParaSecurePrint, cmdParaSecurePrint);
-    InitializeCmdParaTable(symParaSMBEnterNumber, cmdParaSMBEnterNumber);
-    InitializeCmdParaTable(symParaSMBPassword, cmdParaSMBPassword);
-    InitializeCmdParaTable(symParaSecureUserName, cmdParaSecureUserName);
-    InitializeCmdParaTable(symParaSecurePrintPassword, cmdParaSecurePrintPassword);
-    InitializeCmdParaTable(symParaDocumentNameAutoRetrieve, cmdParaDocumentNameAutoRetrieve);
-    InitializeCmdParaTable(symParaDocumentNameEnterName, cmdParaDocumentNameEnterName);
-    InitializeCmdParaTable(symParaDelayPrint, cmdParaDelayPrint);
-}
-
-void PrintTypeInitialzieComparationTable()
-{
-    InitializeComparationTable(comparationSecurePrint, comparationItemSecurePrint);
-    InitializeComparationTable(comparationSecurePrintHold, comparationItemSecurePrintHold);
-    InitializeComparationTable(comparationSamplePrintHold, comparationItemSamplePrintHold);
-    InitializeComparationTable(comparationSMBPrintHold, comparationItemSMBPrintHold);
-    InitializeComparationTable(comparationMBNumberPrintHold, comparationItemMBNumberPrintHold);
-    InitializeComparationTable(comparationSMBEnterNumber, comparationItemSMBEnterNumber);
-    InitializeComparationTable(comparationParaSMBPassword, comparationItemSMBPassword);
-    InitializeComparationTable(comparationSecureUserName, comparationItemSecureUserName);
-    InitializeComparationTable(comparationParaSecurePrintPassword, comparationItemSecurePrintPassword);
-    InitializeComparationTable(comparationDocumentNameAutoRetrieve, comparationItemDocumentNameAutoRetrieve);
-    InitializeComparationTable(comparationDocumentNameEnterName, comparationItemDocumentNameEnterName);
-    InitializeComparationTable(comparationDelayPrint, comparationItemDelayPrint);
-}

@@ -8,7 +8,7 @@
 
 WatermarkOptions psOptionWatermark;
 
-constexpr WatermarkOptions &option = psOptionWatermark;
+static constexpr WatermarkOptions &option = psOptionWatermark;
 
 constexpr ticketData tickets[] = {
     TextTicket(kWMNameTicketKey, option.name, GetTicketString),

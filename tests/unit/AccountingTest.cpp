@@ -4,6 +4,7 @@
 #include "JobState.h"
 #include "Rows.h"
 
+#include <algorithm>
 #include <cstring>
 
 static const std::string sender = "@PJL SET JOBATTR=\"@CNAM=desk\"\n@PJL SET JOBATTR=\"@LUNA=taro\"\n";
@@ -35,7 +36,6 @@ class Accounting : public testing::Test
     void SetUp() override
     {
         JBAInializeDescriptionTableFromFilter();
-        zpjlOptionJBA = {};
         strcpy(HostNameStr, "desk");
         strcpy(StdUserName, "taro");
         strcpy(StdJBAUserName, "taro");
@@ -45,11 +45,51 @@ class Accounting : public testing::Test
     JBAOptions &option = zpjlOptionJBA;
 };
 
+// The rows of the table whose conditions hold and whose lines name the user, counted from 1.
+static std::vector<int32_t> UserRows(const FmtTableRow *table, int32_t count)
+{
+    std::vector<int32_t> rows;
+    for (int32_t i = 0; i < count; i++)
+        if (strstr(table[i].prtfmtStr, "@JOAU=") && ConditionCompare(*table[i].comparation))
+            rows.push_back(i + 1);
+    return rows;
+}
+
+// Rows that print the same line answer different choices; the printers' interface numbers them.
+TEST_F(Accounting, EachChoiceHasItsRow)
+{
+    option.userSetting = option.adminUserSetting = 1;
+    strcpy(option.userID, "x");
+    strcpy(option.adminUserID, "x");
+    const int32_t choices[][4] = {// userIDList, infoList, infoSetList, row of the administrator
+                                  {1, 0, 3, 1}, {1, 0, 8, 1}, {1, 2, 3, 2}, {1, 1, 3, 3}, {1, 3, 3, 4},
+                                  {1, 1, 8, 5}, {1, 2, 8, 5}, {1, 3, 8, 5}, {2, 3, 3, 6}};
+    for (const auto &[list, info, set, row] : choices) {
+        SCOPED_TRACE(testing::Message() << list << " " << info << "/" << set);
+        option.userIDList = option.adminUserIDList = list;
+        option.infoList = info;
+        option.infoSetList = set;
+        option.manageType = 1;
+        EXPECT_EQ(UserRows(JBAFmtTableAdmin, JBAFmtTableAdminNum), std::vector{row});
+        option.manageType = 2;
+        const int32_t common = row + (row == 6 ? 8 : 7); // row 13 is for jobs that did not pass through the dialog
+        EXPECT_EQ(UserRows(JBAFmtTableCommon, JBAFmtTableCommonNum), std::vector{common});
+        option.userIDTicketAbsent = 1;
+        EXPECT_EQ(UserRows(JBAFmtTableCommon, JBAFmtTableCommonNum),
+                  (std::vector{std::min(common, 13), std::max(common, 13)}));
+        option.userIDTicketAbsent = 0;
+    }
+}
+
 TEST_F(Accounting, UnknownHostAndUser)
 {
-    *HostNameStr = *StdUserName = '\0';
-    const std::string unknown = "@PJL SET JOBATTR=\"@CNAM=UnknownHost\"\n@PJL SET JOBATTR=\"@LUNA=UnknownUser\"\n";
-    EXPECT_EQ(Lines(), unknown);
+    for (const std::string host : {"desk", ""})
+        for (const std::string user : {"taro", ""}) {
+            strcpy(HostNameStr, host.c_str());
+            strcpy(StdUserName, user.c_str());
+            EXPECT_EQ(Lines(), "@PJL SET JOBATTR=\"@CNAM=" + (host.empty() ? "UnknownHost" : host) +
+                                   "\"\n@PJL SET JOBATTR=\"@LUNA=" + (user.empty() ? "UnknownUser" : user) + "\"\n");
+        }
     option.userSetting = option.adminUserSetting = option.userIDList = option.adminUserIDList = 1;
     for (const char *password : {"", "x"})
         for (const int32_t list : {0, 1, 3})

@@ -98,16 +98,6 @@ constexpr void InitializeComparationTable(ComparationTable &table, int32_t count
     table.list = list;
 }
 
-// For tables that are still bound at run time.
-template <size_t N> void InitializeCmdParaTable(CmdParaTable &table, const void *const (&list)[N])
-{
-    InitializeCmdParaTable(table, static_cast<int32_t>(N), list);
-}
-template <size_t N> void InitializeComparationTable(ComparationTable &table, const ComparationItem (&list)[N])
-{
-    InitializeComparationTable(table, static_cast<int32_t>(N), list);
-}
-
 // Descriptors of the lists of a line, for its declaration beside them.
 template <size_t N> constexpr CmdParaTable Values(const void *const (&list)[N])
 {

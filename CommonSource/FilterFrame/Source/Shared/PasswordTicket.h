@@ -2,6 +2,8 @@
 // can read.
 #pragma once
 
+#include "TicketReader.h"
+
 #include <cups/cups.h>
 
 #include <cstdint>
@@ -24,3 +26,9 @@ constexpr size_t kStoredPasswordMaxLength = 239;
 // begin with "/". Empty when the password is empty or too long; some values of more than 47 bytes that would begin with
 // "/" are too long as well. Good for a filter built with the same key material.
 std::string StorePassword(std::string_view password);
+
+// The row of such a ticket.
+constexpr ticketData PasswordTicket(const char *key, char (&field)[kEncryptedPasswordSize])
+{
+    return TextTicket(key, field, GetTicketPasswordStringConvertedToEncryption);
+}

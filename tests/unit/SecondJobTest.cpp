@@ -1,0 +1,84 @@
+// A job in a process that has had another one writes what it would have written in a process of its own.
+#include "Features.h"
+#include "FilterFrame.h"
+#include "JBA.h"
+#include "JobHeader.h"
+#include "JobState.h"
+#include "PrintType.h"
+#include "SpecialPage.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <span>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+using Job = std::vector<const char *>; // title, options
+
+// What the last of the jobs writes, and its status.
+static std::string OutputOfLast(const std::vector<Job> &jobs)
+{
+    const std::string files = testing::TempDir() + "second-job." + std::to_string(getpid());
+    const std::string document = files + ".ps", ppd = files + ".ppd";
+    std::ofstream(document) << "%!PS\n%%BeginProlog\n%%EndPageSetup\nep\n%%EndPageSetup\nep\n";
+    std::ofstream(ppd) << "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
+                          "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n"
+                          "*OVPrinterLanguageEncoding: \"SJIS\"\n"; // takes the comment
+    FILE *output = tmpfile();
+    fflush(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        setenv("PPD", ppd.c_str(), 1);
+        dup2(fileno(output), STDOUT_FILENO);
+        int status = 0;
+        for (const Job &job : jobs) {
+            if (ftruncate(STDOUT_FILENO, 0) != 0 || lseek(STDOUT_FILENO, 0, SEEK_SET) != 0)
+                _exit(99);
+            const char *argv[] = {"pstoorvane", "1", "taro", job[0], "1", job[1], document.c_str(), nullptr};
+            status = FilterMain(7, argv);
+            CancelJob = 1; // as the signals leave them
+            CancelJobForPipe = 1;
+        }
+        _exit(status);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    unlink(document.c_str());
+    unlink(ppd.c_str());
+    std::string text(static_cast<size_t>(lseek(fileno(output), 0, SEEK_END)), '\0');
+    EXPECT_EQ(pread(fileno(output), text.data(), text.size(), 0), static_cast<ssize_t>(text.size()));
+    fclose(output);
+    return text + "status " + std::to_string(status);
+}
+
+#define T "com.orvane.dlg.printsettings."
+#define MARK T "WMARKNameTicket=x " T "WMARKTypeTicket=0 " T "WMARKTextTicket=(x) " T "WMARKOnlyFirstTicket=1 "
+
+TEST(SecondJob, WritesWhatItWouldWriteAlone)
+{
+    const Job first = {"Report", MARK "collate number-up=2 OVSignature=None OVPBindPosition=BindLeft "
+                                      "OVPBindTrimming=3EdgeCutMinimum " T "PrintTypeTicketKey=4 " T
+                                      "ZPIFCoverCountTicket=1 " T "JBAUserIDTextEditTicket=x"};
+    const Job second = {"two\nlines", MARK "OVPBindPosition=RIGHT OVPBindTrimming=3EdgeCut OVPBindCutPositionFore=9mm"};
+    const std::string alone = OutputOfLast({second});
+    for (const char *part : {"(x) show", "ISXO=45", "@PJL EOJ\nstatus 0"})
+        EXPECT_NE(alone.find(part), alone.npos) << part;
+    EXPECT_EQ(OutputOfLast({first, second}), alone);
+}
+
+// Every record starts a job empty, also where a ticket or a later dialog forgets a field.
+TEST(SecondJob, RecordsStartEmpty)
+{
+    const std::span<std::byte> byInitialiser[] = {std::as_writable_bytes(std::span(&zpjlOptionPrintType, 1)),
+                                                  std::as_writable_bytes(std::span(&zpjlOptionJBA, 1)),
+                                                  std::as_writable_bytes(std::span(&zpjlOptionFeatures, 1)),
+                                                  std::as_writable_bytes(std::span(&psOptionSpecialPage, 1))};
+    for (const auto record : byInitialiser)
+        std::ranges::fill(record, std::byte{1});
+    InializeDescriptionTable();
+    for (const auto record : byInitialiser)
+        EXPECT_EQ(std::ranges::count(record, std::byte{0}), std::ssize(record));
+}
