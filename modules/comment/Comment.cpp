@@ -74,7 +74,7 @@ void CommentGetTicketFromPDE(const char *const *argv)
     GetTicketFromArray(argv, CommentticketData, std::size(CommentticketData));
 
     // The dialog's collation is known by a word anywhere among the options.
-    const char *options = argv[5] ? argv[5] : "";
+    const char *options = OptionsOfJob(argv).text;
     for (const char *word : {"nocollate", "collate"}) {
         if (strstr(options, word)) {
             CopyCut(psoptioncomment.collate, word);

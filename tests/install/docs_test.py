@@ -35,7 +35,7 @@ def is_ours(option):
 class Docs(unittest.TestCase):
     def setUp(self):
         """The table's rows, by name: section, values, lines; what the filter reads; what the sample queues offer."""
-        self.table, self.read, self.choices, self.attributes = {}, {}, {}, set()
+        self.table, self.read, self.choices, self.attributes, self.given, self.triggers = {}, {}, {}, set(), set(), set()
         for section in re.split("^## ", contents(TICKETS), flags=re.M):
             for name, values, lines in re.findall(r"^\| `([^`]+)` \|([^|]*)\|([^|]*)\|$", section, re.M):
                 row = self.table.setdefault(full_name(name), ["", "", ""])
@@ -46,7 +46,10 @@ class Docs(unittest.TestCase):
             self.read.setdefault(kind, []).append(words)
         for ppd in map(contents, PPDS):
             self.attributes.update(re.findall(r"^\*(\w+)", ppd, re.M))
-            for option in re.findall(r"^\*OpenUI \*(\w+)", ppd, re.M):
+            for option, given in re.findall(r'^\*OVTicket ([^.:]+)[^:]*: "([^"]*)"', ppd, re.M):
+                self.triggers.add(option)
+                self.given.update(map(full_name, re.findall(r"(?:^| )([^ =']+)=", given)))
+            for option in re.findall(r"^\*(?:JCL)?OpenUI \*(\w+)", ppd, re.M):
                 found = re.findall(rf"^\*{option} ([^/:]+)", ppd, re.M)
                 self.choices.setdefault(option, set()).update(found)
 
@@ -62,14 +65,17 @@ class Docs(unittest.TestCase):
         self.assertEqual(set(self.table), names)
 
     def test_sample_queues_have_what_the_table_has(self):
-        self.assertEqual({name for name in self.options if is_ours(name)}, {name for name in self.choices if is_ours(name)})
+        offered = {name for name in self.choices if is_ours(name)}
+        self.assertLessEqual({name for name in self.options if is_ours(name)}, offered)
+        self.assertLessEqual(offered - self.options, self.triggers)
+        self.assertLessEqual(self.given, self.options)
         attributes = set(self.table) - self.options
         self.assertLessEqual(attributes, self.attributes)
         self.assertLessEqual({name for name in self.attributes - set(self.choices) if re.match("OV|QBX", name)}, attributes)
 
     def test_table_has_the_choices(self):
         everywhere = quoted(contents(TICKETS))
-        for option in filter(is_ours, self.choices):
+        for option in filter(is_ours, self.options & set(self.choices)):
             # A row without values of its own takes a number, or a value of the lists below it.
             values = quoted(self.table[option][1])
             known = values or everywhere.union(c for c in self.choices[option] if re.fullmatch("-?[0-9]+(mm)?", c))

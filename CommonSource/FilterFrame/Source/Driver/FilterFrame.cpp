@@ -11,6 +11,7 @@
 #include "PSStream.h"
 #include "SystemVersion.h"
 #include "TextEncoding.h"
+#include "TicketReader.h"
 #include "UtilityFunctionFilter.h"
 
 #include <csignal>
@@ -172,6 +173,7 @@ static int RunJob(int argc, const char *const *argv)
         OutputPSStream(argc, argv);
     OutputZPJLCommandFromArray(argv, prtFmtTableZPJLTrailer, numFmtTableZPJLTrailer);
     CloseJobCopy();
+    CloseOptionsOfJob();
     CloseJobPPD();
     fflush(stdout);
     return CancelJobForPipe ? 1 : 0;

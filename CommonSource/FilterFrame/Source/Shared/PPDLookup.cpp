@@ -96,6 +96,46 @@ bool PPDHasOption(const char *keyword)
     return PPDHasOption(JobPPD(), keyword);
 }
 
+std::span<const ppd_choice_t> PPDChoices(const char *keyword)
+{
+    const ppd_option_t *option = FindOption(JobPPD(), keyword);
+    if (!option)
+        return {};
+    return {option->choices, static_cast<size_t>(option->num_choices)};
+}
+
+bool PPDHasCustomChoice(const char *keyword)
+{
+    return JobPPD() && ppdFindCustomOption(JobPPD(), keyword) != nullptr;
+}
+
+std::vector<PPDAttribute> PPDAttributes(const char *name)
+{
+    std::vector<PPDAttribute> attributes;
+    const ppd_file_t *ppd = JobPPD();
+    for (int i = 0; ppd && i < ppd->num_attrs; i++)
+        if (strcmp(ppd->attrs[i]->name, name) == 0 && ppd->attrs[i]->value)
+            attributes.push_back({ppd->attrs[i]->spec, ppd->attrs[i]->value});
+    return attributes;
+}
+
+std::vector<PPDDefault> PPDDefaults()
+{
+    std::vector<PPDDefault> defaults;
+    ppd_file_t *ppd = JobPPD();
+    for (const ppd_option_t *option = ppd ? ppdFirstOption(ppd) : nullptr; option; option = ppdNextOption(ppd)) {
+        // What a choice is called can be cut where the library keeps it with the option. The last one counts.
+        const std::string name = std::string("Default") + option->keyword;
+        const char *choice = nullptr;
+        for (const ppd_attr_t *attribute = ppdFindAttr(ppd, name.c_str(), nullptr); attribute;
+             attribute = ppdFindNextAttr(ppd, name.c_str(), nullptr))
+            choice = attribute->value ? attribute->value : choice;
+        if (choice)
+            defaults.push_back({option->keyword, choice});
+    }
+    return defaults;
+}
+
 bool PPDPageSizeInPoints(const char *name, float &width, float &length)
 {
     const ppd_size_t *size = JobPPD() ? ppdPageSize(JobPPD(), name) : nullptr;

@@ -6,6 +6,8 @@
 #include <cups/ppd.h>
 
 #include <cstdint>
+#include <span>
+#include <vector>
 
 // The attribute that names the printer's language encoding; "UTF-8" puts the job in UTF-8 mode.
 extern const char KPPDCharEncoding[];
@@ -41,6 +43,24 @@ bool PPDAttributeIs(const char *name, const char *value);
 // Whether the PPD (the queue's, when none is named) defines the option.
 bool PPDHasOption(ppd_file_t *ppd, const char *keyword);
 bool PPDHasOption(const char *keyword);
+
+// The option's choices, none for an option that the PPD doesn't define; and whether it has one for values of one's own.
+std::span<const ppd_choice_t> PPDChoices(const char *keyword);
+bool PPDHasCustomChoice(const char *keyword);
+
+// Attributes of exactly this name, in file order; keyword is the option that follows the name, empty where none does.
+struct PPDAttribute {
+    const char *keyword;
+    const char *value;
+};
+std::vector<PPDAttribute> PPDAttributes(const char *name);
+
+// The PPD's options with what it says in their Default attributes, in full; those without one are left out.
+struct PPDDefault {
+    const char *keyword;
+    const char *choice;
+};
+std::vector<PPDDefault> PPDDefaults();
 
 // The size of a page of the queue's PPD, in points. Returns false, with both 0, when the PPD doesn't define it.
 bool PPDPageSizeInPoints(const char *name, float &width, float &length);

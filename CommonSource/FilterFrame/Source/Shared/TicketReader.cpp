@@ -3,11 +3,16 @@
 #include "BoundedText.h"
 #include "JobState.h"
 #include "PPDLookup.h"
+#include "PPDTickets.h"
+#include "Platform.h"
 #include "TextEncoding.h"
 #include "UtilityFunctionFilter.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 // Size of the buffer in which a text is decoded, its NUL included; a longer value is cut.
 constexpr size_t kTicketTextSize = 1024;
@@ -17,18 +22,39 @@ constexpr int kOptionsArgument = 5;
 
 using TextConverter = int32_t (*)(const char *source, char *destination, int32_t size);
 
+// What the parsed options come from: the argument and, for what the PPD adds, its name, the user and the title. All of
+// it may hold a password, and so may the text that they are given with.
+static std::array<std::string, 4> parsedFrom;
+static std::string optionText;
+static JobOptions parsedOptions;
+
 JobOptions OptionsOfJob(const char *const *argv)
 {
-    static std::string parsed;
-    static JobOptions options;
+    const char *ppd = getenv("PPD");
     const char *text = argv[kOptionsArgument] ? argv[kOptionsArgument] : "";
-    if (parsed != text) {
-        cupsFreeOptions(options.count, options.list);
-        options.list = nullptr;
-        options.count = cupsParseOptions(text, 0, &options.list);
-        parsed = text;
+    const std::array<const char *, 4> from = {text, ppd ? ppd : "", argv[2], argv[3]};
+    if (!parsedOptions.text || !std::ranges::equal(parsedFrom, from)) {
+        CloseOptionsOfJob();
+        std::ranges::copy(from, parsedFrom.begin());
+        parsedOptions.count = cupsParseOptions(text, 0, &parsedOptions.list);
+        const std::string words = AddPPDTickets(argv, parsedOptions);
+        optionText.reserve(strlen(text) + words.size());
+        optionText.append(text).append(words);
+        parsedOptions.text = optionText.c_str();
     }
-    return options;
+    return parsedOptions;
+}
+
+void CloseOptionsOfJob()
+{
+    cupsFreeOptions(parsedOptions.count, parsedOptions.list);
+    parsedOptions = {};
+    PlatformWipe(optionText.data(), optionText.size());
+    optionText.clear();
+    for (std::string &text : parsedFrom) {
+        PlatformWipe(text.data(), text.size());
+        text.clear();
+    }
 }
 
 int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int32_t count)

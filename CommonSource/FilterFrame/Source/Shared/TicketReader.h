@@ -34,12 +34,17 @@ inline constexpr char kNumberUpTicketKey[] = "number-up";
 inline constexpr char kLayoutDirectionTicketKey[] = "com.apple.print.PrintSettings.PMLayoutDirection..n.";
 inline constexpr char kQBPunchHoleTicketKey[] = "OVNumPunchHoles";
 
-// The job's options (argument 5), parsed once a job.
+// The job's options (argument 5) with what the queue's PPD adds to them, parsed once a job.
+// text: the argument, and behind it a word for each option that was added, with "no" before it where that is false.
 struct JobOptions {
     int32_t count;
     cups_option_t *list;
+    const char *text;
 };
 JobOptions OptionsOfJob(const char *const *argv);
+
+// Forgets them, as another job has another PPD.
+void CloseOptionsOfJob();
 
 // Reads every row, in order; returns 1.
 int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int32_t count);
