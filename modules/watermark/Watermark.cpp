@@ -2,6 +2,8 @@
 
 #include "InjectionEvents.h"
 #include "OutputSink.h"
+#include "PPDLookup.h"
+#include "WatermarkEndPage.h"
 
 #include <algorithm>
 #include <cmath>
@@ -50,6 +52,8 @@ struct TextWatermarkBlock {
     int32_t bToPrint = 1;
 };
 
+// pgsave, pm and the save that they hold belong to the document, whose page procedures keep it there. The dictionary
+// stays open on purpose: the names in it must be found on every page. Each wqwbp leaves a name on the operand stack.
 static TextWatermarkBlock InjectTextWatermark[] = {
     {kEventBeginProlog,
      "userdict/wqwInfo 2 dict dup begin\n"
@@ -62,9 +66,8 @@ static TextWatermarkBlock InjectTextWatermark[] = {
     {kEventEndPageOfFilter, "wqwpgsave restore /wqwpgsave save store gsave\n", true},
 };
 
-// Lightens a colour component towards white. One operation a statement: the result is that of 32-bit floats also where
-// a compiler could fuse two operations.
-static float Lighten(float component, float density)
+// One operation a statement: the result is that of 32-bit floats also where a compiler could fuse two operations.
+float Lighten(float component, float density)
 {
     const float distance = 1 - component;
     const float scaled = distance * density;
@@ -87,24 +90,30 @@ static HalfDiagonal TurnedHalfDiagonal(double radians)
             static_cast<float>(cosine * halfHeight + sine * halfWidth)};
 }
 
-void GetWatermarkPostion(float &x, float &y, float horizontalOffset, float verticalOffset)
+void GetWatermarkCentre(float &x, float &y)
 {
     const float halfPaperWidth = static_cast<float>(option.paperWidth) / 2;
     const float halfPaperHeight = static_cast<float>(option.paperHeight) / 2;
-    float centreX = 0;
-    float centreY = 0;
+    x = y = 0;
     switch (option.orientation) {
     case 1:
     case 3:
-        centreX = halfPaperWidth;
-        centreY = halfPaperHeight;
+        x = halfPaperWidth;
+        y = halfPaperHeight;
         break;
     case 2:
     case 4:
-        centreX = halfPaperHeight;
-        centreY = halfPaperWidth;
+        x = halfPaperHeight;
+        y = halfPaperWidth;
         break;
     }
+}
+
+void GetWatermarkPostion(float &x, float &y, float horizontalOffset, float verticalOffset)
+{
+    float centreX;
+    float centreY;
+    GetWatermarkCentre(centreX, centreY);
 
     // Each quadrant is turned back to the first; the digits of the constants are part of the result.
     const uint32_t angle = static_cast<uint32_t>(option.angle);
@@ -150,12 +159,19 @@ static void OutputDrawing(FILE *stream)
     QBfprintf(stream, "grestore\n");
 }
 
+// Whether the pages are marked by an EndPage procedure, not by the blocks.
+static bool byEndPage = false;
+
 void WatermarkGetTicketFromPDE(const char *const *argv)
 {
     psOptionWatermark = {};
+    byEndPage = PPDAttributeIs("OVWatermarkMethod", "EndPage");
     for (TextWatermarkBlock &block : InjectTextWatermark)
         block.bToPrint = 1;
     GetTicketFromArray(argv, WatermarkticketData);
+    const JobOptions options = OptionsOfJob(argv);
+    GetTicketStringConvertedToPrtLangForUTF8(kWMARKTextTicketKey, options.count, options.list, option.utf8Text,
+                                             sizeof option.utf8Text);
 }
 
 static bool IsTextWatermark()
@@ -165,14 +181,25 @@ static bool IsTextWatermark()
 
 static bool IsDue(const TextWatermarkBlock &block, int32_t event)
 {
-    return block.event == event && block.bToPrint == 1;
+    return !byEndPage && block.event == event && block.bToPrint == 1;
 }
+
+// What the events of the EndPage procedure write.
+static constexpr struct {
+    int32_t event;
+    void (*output)(FILE *stream);
+} endPageBlocks[] = {
+    {kEventBeforePages, OutputEndPageWatermark},
+    {kEventFillerPage, OutputUnmarkedPage},
+};
 
 bool WatermarkHasPSCommandFromFilter(int32_t event)
 {
-    return IsTextWatermark() && std::ranges::any_of(InjectTextWatermark, [event](const TextWatermarkBlock &block) {
-               return IsDue(block, event);
-           });
+    if (!IsTextWatermark())
+        return false;
+    return (byEndPage &&
+            std::ranges::any_of(endPageBlocks, [event](const auto &block) { return block.event == event; })) ||
+           std::ranges::any_of(InjectTextWatermark, [event](const auto &block) { return IsDue(block, event); });
 }
 
 void WatermarkOutputPSCommandFromFilter(int32_t event, int32_t, FILE *stream)
@@ -181,6 +208,9 @@ void WatermarkOutputPSCommandFromFilter(int32_t event, int32_t, FILE *stream)
         return;
     option.options = 1;
 
+    for (const auto &block : endPageBlocks)
+        if (byEndPage && block.event == event)
+            block.output(stream);
     for (TextWatermarkBlock &block : InjectTextWatermark) {
         if (!IsDue(block, event))
             continue;

@@ -1,4 +1,5 @@
-// Watermark: a text drawn across the pages by PostScript that is put into the document at its page boundaries.
+// Watermark: a text drawn across the pages by PostScript that is put into the document at its page boundaries or, where
+// the queue's PPD says so, by a procedure that is installed before the first page.
 // The tickets fill one record; the text starts where its turned box has the page's centre in its middle.
 #pragma once
 
@@ -36,6 +37,7 @@ inline constexpr char KWMARKhOffsetTicketKey[] = "com.orvane.dlg.printsettings.W
 inline constexpr char KWMARKvOffsetTicketKey[] = "com.orvane.dlg.printsettings.WMARKvOffsetTicket";
 
 constexpr size_t kWatermarkTextSize = 256;
+constexpr size_t kWatermarkUTF8TextSize = 1024;
 
 // Lengths are in points, colours and alpha 0 to 1. An absent number is -1, an absent text empty.
 struct WatermarkOptions {
@@ -64,12 +66,13 @@ struct WatermarkOptions {
     float boxHeight;
     float horizontalOffset;
     float verticalOffset;
+    char utf8Text[kWatermarkUTF8TextSize]; // the text once more
 };
 
 extern WatermarkOptions psOptionWatermark;
 extern const TicketTable WatermarkticketData;
 
-// Starts a job: reads the tickets, and every block is to be printed again.
+// Starts a job: reads the tickets and the method, and every block is to be printed again.
 void WatermarkGetTicketFromPDE(const char *const *argv);
 
 // Whether a block is still to be written at this point of the document.
@@ -77,6 +80,12 @@ bool WatermarkHasPSCommandFromFilter(int32_t event);
 
 // Writes the block that belongs to this point of the document. The page number is not used.
 void WatermarkOutputPSCommandFromFilter(int32_t event, int32_t pageNumber, FILE *stream);
+
+// Lightens a colour component towards white; a density of 1 leaves it as it is.
+float Lighten(float component, float density);
+
+// The page's centre, by paper and orientation; (0, 0) for an orientation other than 1 to 4.
+void GetWatermarkCentre(float &x, float &y);
 
 // Where the text starts: the page's centre less the box's half-diagonal turned by the angle, plus the offsets; the
 // offsets alone for an angle outside 0 to 360.

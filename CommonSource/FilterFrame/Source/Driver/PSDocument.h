@@ -1,5 +1,4 @@
-// PSDocument: what the marker lines of a document mean: injections, page ends, the end of a cancelled job, page
-// reports.
+// PSDocument: what the lines of a document mean: injections, page ends, the end of a cancelled job, page reports.
 #pragma once
 
 #include "PSLineReader.h"
@@ -14,6 +13,18 @@ bool CopyPSDocument(PSLineReader &reader, const char *const *argv,
 
 // Whether a page of the document ends with this line.
 bool IsPSPageEnd(std::string_view line);
+
+// Whether the queue's PPD has pages reported by the document's comments (Adobe's Document Structuring Conventions 3.0).
+bool HasPageLogByComments();
+
+// The comments that pages are told by.
+enum class PSComment { None, BeginDocument, EndDocument, Page, Trailer, Copies };
+
+// The comment that the line begins with; None inside a document within the document, whose depth is counted.
+PSComment FindPSComment(std::string_view line, int32_t &depth);
+
+// Whether the page before the comment, if there is one, has ended.
+bool IsPSPageEnd(PSComment comment);
 
 // Reports a page to the print system, on systems that want it.
 void OutputPageLogCommand(int32_t pageNumber, const char *const *argv);

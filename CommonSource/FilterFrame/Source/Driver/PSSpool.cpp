@@ -208,11 +208,18 @@ static void CopySpooledDocument(int spool)
 {
     PSLineReader reader;
     OpenPSLineReader(reader, spool, stdout, WritePlain, nullptr);
-    // Until the job is cancelled, no line matters.
-    while (!CancelJob && SkipPSBlock(reader))
+    // Until the job is cancelled, no line matters; but comments count only outside of documents within the document.
+    const bool byComments = HasPageLogByComments();
+    while (!byComments && !CancelJob && SkipPSBlock(reader))
         continue;
+    int32_t depth = 0;
     while (NextPSLine(reader)) {
-        if (!IsPSPageEnd(CurrentPSLine(reader)))
+        const std::string_view line = CurrentPSLine(reader);
+        if (byComments && IsPSPageEnd(FindPSComment(line, depth)) && CancelJob) {
+            WriteBeforePSLine(reader);
+            return;
+        }
+        if (!IsPSPageEnd(line))
             continue;
         WriteThroughPSLine(reader);
         if (CancelJob)

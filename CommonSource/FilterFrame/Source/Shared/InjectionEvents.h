@@ -1,5 +1,5 @@
 // InjectionEvents: the points of a document at which modules put PostScript of their own.
-// Each but the last is a marker line of the document.
+// Most are marker lines of the document.
 #pragma once
 
 #include <cstdint>
@@ -14,4 +14,6 @@ enum InjectionEvent : int32_t {
     kEventEndPage = 27,         // before "ep"
     kEventEndPageOfPM = 28,     // before "endp"
     kEventEndPageOfFilter = 29, // a page between this filter's own save and restore
+    kEventBeforePages = 30,     // once, where the page device can be set up before the first page
+    kEventFillerPage = 31,      // after "%%Page: (filler)", with which pstops begins the blank side of a sheet
 };

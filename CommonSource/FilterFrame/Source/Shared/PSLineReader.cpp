@@ -31,13 +31,14 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
     reader.written = reader.line = reader.lineEnd = reader.end;
     reader.nextWord = nullptr;
     reader.last = '\0';
+    reader.everyLine = false;
 }
 
 // The beginning of the first line that may be of interest and has its end in [line, lineEnd]; null when there is none.
 static const char *FindCandidate(PSLineReader &reader, const char *lineEnd)
 {
     const char *candidate = reader.line;
-    if (!CanBeMarker(*candidate))
+    if (!reader.everyLine && !CanBeMarker(*candidate))
         candidate = FindEndBeforeMarker(reader.line, lineEnd) + 1;
     if (reader.watch) {
         if (!reader.nextWord || reader.nextWord < reader.line)
@@ -48,6 +49,11 @@ static const char *FindCandidate(PSLineReader &reader, const char *lineEnd)
         }
     }
     return candidate <= lineEnd ? candidate : nullptr;
+}
+
+bool IsWholePSLine(const PSLineReader &reader)
+{
+    return IsLineEnd(*reader.lineEnd);
 }
 
 bool IsWatchedPSLine(const PSLineReader &reader)
@@ -111,6 +117,10 @@ bool NextPSLine(PSLineReader &reader)
         const char *const lineEnd = FindLateLineEnd(reader.line, limit);
         if (lineEnd == limit) {
             if (limit - reader.line == kPSLineLimit) {
+                if (reader.everyLine) {
+                    reader.lineEnd = limit - 1;
+                    return true;
+                }
                 reader.line = limit;
             } else if (!Refill(reader)) {
                 reader.lineEnd = reader.end;

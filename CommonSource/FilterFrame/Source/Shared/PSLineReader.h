@@ -43,6 +43,7 @@ struct PSLineReader {
     char *end;            // of the bytes read
     const char *nextWord; // the first at or after `line`, or `end`; null when not looked for
     char last;            // last byte of the input, 0 when it is empty
+    bool everyLine;       // every line is of interest; false at first
 };
 
 void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(const void *, size_t, size_t, FILE *),
@@ -51,6 +52,9 @@ void OpenPSLineReader(PSLineReader &reader, int in, FILE *out, void (*write)(con
 // Moves to the next line that CanBeMarker or is watched; the lines on the way go out with their block or, sooner, with
 // one of the write calls. Returns false at the end of the input, with all complete lines written.
 bool NextPSLine(PSLineReader &reader);
+
+// False for a part of a line that is too long to be examined, which is found only where every line is of interest.
+bool IsWholePSLine(const PSLineReader &reader);
 
 // Whether the current line is watched.
 bool IsWatchedPSLine(const PSLineReader &reader);
