@@ -17,16 +17,8 @@ endif()
 set(OV_FILTER_DIR ${filter_dir} CACHE PATH "Where CUPS looks for filters")
 set(OV_MODEL_DIR ${model_dir} CACHE PATH "Where CUPS looks for models")
 
-find_program(GZIP gzip REQUIRED)
-function(ov_gzip source target)
-  add_custom_command(OUTPUT ${target} COMMAND ${GZIP} -9nc ${source} > ${target} DEPENDS ${source} VERBATIM)
-endfunction()
 set(man_page ${PROJECT_BINARY_DIR}/man/pstoorvane.8)
-set(changelog ${PROJECT_BINARY_DIR}/changelog)
 configure_file(${PROJECT_SOURCE_DIR}/man/pstoorvane.8.in ${man_page} @ONLY)
-ov_gzip(${man_page} ${man_page}.gz)
-ov_gzip(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${changelog}.gz)
-add_custom_target(compressed ALL DEPENDS ${man_page}.gz ${changelog}.gz)
 
 # CUPS refuses a filter that others may write.
 set(everyone_runs OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
@@ -34,6 +26,6 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${everyone_runs})
 install(TARGETS pstoorvane DESTINATION ${OV_FILTER_DIR} PERMISSIONS ${everyone_runs})
 install(DIRECTORY ${PROJECT_BINARY_DIR}/ppd/ DESTINATION ${OV_MODEL_DIR}
   FILES_MATCHING REGEX "/ppd/[a-z]+\\.ppd$" PATTERN compiled EXCLUDE PATTERN CMakeFiles EXCLUDE)
-install(FILES ${man_page}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
-install(FILES ${changelog}.gz packaging/copyright docs/tickets.md docs/debugging.md docs/passwords.md
-  docs/product-configuration.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/pstoorvane)
+install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
+install(FILES CHANGELOG.md docs/tickets.md docs/debugging.md docs/passwords.md docs/product-configuration.md
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/pstoorvane)

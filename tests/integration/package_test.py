@@ -1,29 +1,33 @@
-"""The Debian package on the system it is for: built, checked, installed, printed through, and purged.
+"""The Debian package: built twice under other circumstances to the same bytes, checked, installed, printed through, purged.
 
-usage: package_test.py BUILD-FOLDER DOCUMENT
-Exits with 77, and says why, where it may not install packages.
+usage: package_test.py SOURCES FOLDER
+Builds in FOLDER, and leaves the packages there. Exits with 77, and says why, where a tool is missing or it may not install.
 """
 
-import glob
+import hashlib
 import os
 import shutil
 import subprocess
 import sys
-import tempfile
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
 
-from private_cups import PrivateCups, Printer, wait_for
+from private_cups import PrivateCups
 
-BUILD, DOCUMENT = sys.argv[1:3]
+SOURCES, FOLDER = map(Path, sys.argv[1:3])
 PACKAGE = "pstoorvane"
-MODELS = {"orvane/mono.ppd": "Orvane Mono 20", "orvane/office.ppd": "Orvane Office C4",
-          "orvane/production.ppd": "Orvane Production P9"}
+# The folder below FOLDER, umask, environment, and what runs the build.
+BUILDS = (("one", 0o022, {"TZ": "UTC", "LC_ALL": "C.UTF-8", "DEB_BUILD_OPTIONS": "parallel=1"}, []),
+          ("another/place", 0o027, {"TZ": "Pacific/Kiritimati", "LC_ALL": "C", "DEB_BUILD_OPTIONS": "parallel=2"},
+           ["faketime", "+400 days"]))
 
 
 def run(*command, **options):
+    options = {"env": dict(os.environ, LC_ALL="C", DEBIAN_FRONTEND="noninteractive"), **options}
     done = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                          text=True, env=dict(os.environ, LC_ALL="C", DEBIAN_FRONTEND="noninteractive"), **options)
+                          text=True, **options)
     if done.returncode != 0:
-        raise RuntimeError(f"{' '.join(command)}: {done.stdout}")
+        raise RuntimeError(f"{' '.join(map(str, command))}: {done.stdout}")
     return done.stdout
 
 
@@ -39,59 +43,66 @@ class SystemCups(PrivateCups):
         os.symlink(os.path.dirname(os.path.dirname(self.filter_path)), self.path("bin"))
 
 
-def skip_reason():
-    if os.geteuid() != 0:
-        return "only root installs packages"
-    for tool in ("dpkg", "dpkg-shlibdeps", "cpack", "cups-config"):
+def missing_tools():
+    for tool in ("dpkg-buildpackage", "dh", "faketime", "lintian"):
         if not shutil.which(tool):
             return f"{tool} is not installed"
-    if subprocess.run(["dpkg-query", "-W", PACKAGE], capture_output=True).returncode == 0:
-        return "the package is already installed here, and is left alone"
-    return None
+    lacking = subprocess.run(["dpkg-checkbuilddeps", "-Pnocheck", SOURCES / "debian" / "control"], text=True,
+                             capture_output=True)
+    return lacking.stderr.strip()
 
 
-def check_file(package):
-    fields = run("dpkg-deb", "-f", package, "Depends", "Description")
+def build(place, umask, environment, within):
+    """Unpacks the source package and builds all packages of it; returns them by name, with their bytes."""
+    tree = FOLDER / place / "tree"
+    tree.parent.mkdir(parents=True)
+    run("dpkg-source", "--no-check", "-x", *FOLDER.glob("*.dsc"), tree, umask=umask)
+    run(*within, "dpkg-buildpackage", "--no-sign", "-b", "-Pnocheck", cwd=tree, umask=umask, env={**os.environ, **environment})
+    return {path.name: path.read_bytes() for path in tree.parent.glob("*.deb")}
+
+
+def check_package(package):
     for dependency in ("cups,", "libc6 (>=", "libcups2"):
-        expect(dependency in fields, f"no dependency on {dependency}: {fields}")
-    expect("DEVELOPMENT keys" in fields, f"no word on the keys: {fields}")
-    if shutil.which("lintian"):
-        print(run("lintian", "--allow-root", "--fail-on", "error", package))
-    else:
-        print("skipped: lintian is not installed")
-
-
-def check_printing(filter_path):
-    printer = Printer()
-    with SystemCups(filter_path) as cups:
-        listed = dict(line.split(" ", 1) for line in cups.run("lpinfo", "-m").splitlines())
-        for model, name in MODELS.items():
-            expect(listed.get(model, "").startswith(name), f"{model} is not among the models: {listed}")
-        cups.run("lpadmin", "-p", "office", "-E", "-v", printer.uri, "-m", "orvane/office.ppd")
-        cups.wait_done(cups.lp("office", DOCUMENT, "Installed", ["OVStaple=None"]))
-        wait_for(lambda: printer.ended == 1, "the printer's job")
-    job = bytes(printer.jobs[0])
-    expect(job.startswith(b"\x1b%-12345X@PJL SET STRINGCODESET=UTF8\n@PJL JOB MODE=PRINTER\r\n"), job[:200])
-    expect(b"@PJL COMMENT PRINTJOBINFO STAPLE=OFF\n" in job, "the job lacks its setting")
-    expect(job.endswith(b"\x04\x1b%-12345X@PJL EOJ\n"), job[-200:])
+        expect(dependency in run("dpkg-deb", "-f", package, "Depends"), f"no dependency on {dependency}")
+    expect("openssl (= 3" in run("dpkg-deb", "-f", package, "Static-Built-Using"), "no word on libcrypto")
+    expect("DEVELOPMENT keys" in run("dpkg-deb", "-f", package, "Description"), "no word on the keys")
+    run("dpkg-deb", "-x", package, FOLDER / "unpacked")
+    filter_path, = FOLDER.glob("unpacked/**/filter/pstoorvane")
+    version = run("dpkg-deb", "-f", package, "Version").strip()
+    expect(run(filter_path, "--version").startswith(f"pstoorvane {version},"), f"debian/changelog has version {version}")
 
 
 def main():
-    if reason := skip_reason():
+    if reason := missing_tools():
         print(f"skipped: {reason}")
         return 77
-    with tempfile.TemporaryDirectory() as folder:
-        run("cpack", "-G", "DEB", "-B", folder, "--config", os.path.join(BUILD, "CPackConfig.cmake"), cwd=BUILD)
-        package = glob.glob(os.path.join(folder, "*.deb"))[0]
-        check_file(package)
-        try:
-            run("dpkg", "-i", package)
-            installed = run("dpkg", "-L", PACKAGE).split()
-            check_printing(next(path for path in installed if path.endswith("/filter/pstoorvane")))
-        finally:
-            run("dpkg", "-P", PACKAGE)
-        left = [path for path in installed if PACKAGE in path or "orvane" in path if os.path.lexists(path)]
-        expect(not left, f"left behind: {left}")
+    shutil.rmtree(FOLDER, ignore_errors=True)
+    FOLDER.mkdir(parents=True)
+    run("dpkg-source", "-b", SOURCES, cwd=FOLDER)
+    with ThreadPoolExecutor() as workers:
+        one, other = workers.map(build, *zip(*BUILDS))
+    for name, content in sorted(one.items()):
+        print(hashlib.sha256(content).hexdigest(), name)
+    expect(len(one) == 2 and one.keys() == other.keys(), f"other packages: {sorted(one)} and {sorted(other)}")
+    different = [name for name in one if one[name] != other[name]]
+    expect(not different, f"built twice and not the same: {different}, compare them below {FOLDER}")
+
+    package, = FOLDER.glob(f"one/{PACKAGE}_*.deb")
+    check_package(package)
+    print(run("lintian", "--allow-root", "--fail-on", "error,warning", *FOLDER.glob("*.dsc"), *FOLDER.glob("one/*.changes")))
+
+    if os.geteuid() != 0:
+        print("skipped what follows: only root installs packages")
+        return 77
+    if subprocess.run(["dpkg-query", "-W", PACKAGE], capture_output=True).returncode == 0:
+        print("skipped what follows: the package is already installed here, and is left alone")
+        return 77
+    try:
+        run("dpkg", "-i", package)
+        with SystemCups(os.path.join(run("cups-config", "--serverbin").strip(), "filter", "pstoorvane")) as cups:
+            print(cups.run(str(SOURCES / "debian/tests/print-and-purge")))
+    finally:
+        run("dpkg", "-P", PACKAGE)
     return 0
 
 
