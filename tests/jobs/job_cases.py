@@ -22,15 +22,17 @@ PRIVATE_KEY = DATA / "keys" / "development-2048.pem"
 EXPLAIN = os.environ.get("ORVANE_JOB")  # the tool, which must know every line
 PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
             b'*LanguageEncoding: ISOLatin1\n')
-TICKET = b"com.orvane.dlg.printsettings."
+PREFIX = b"com.orvane.dlg.printsettings."
 CODES = {b"e": b"\x1b", b"r": b"\r", b"n": b"\n", b"t": b"\t", b"\\": b"\\"}
-DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1", b"options": b""}
+DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1"}
+TOKEN = re.compile(rb"""(?:\\\{\d+ .*?\}|\{blob:[^}]*\}|'[^']*'|"[^"]*"|\S)+""")
+CHOICE = re.compile(rb"\[([^][]*\|[^][]*)\]")
 
 
 def unescape(text):
     def meaning(match):
         byte, count, repeated, code = match.groups()
-        return bytes.fromhex(byte.decode()) if byte else int(count) * repeated if count else CODES[code]
+        return bytes.fromhex(byte.decode()) if byte else int(count) * unescape(repeated) if count else CODES[code]
     return re.sub(rb"\\(?:x(..)|\{(\d+) (.*?)\}|(.))", meaning, text)
 
 
@@ -40,31 +42,164 @@ def content_line(text):
     return unescape(text[:-1] if open_ended else text + b"\n")
 
 
-def read_cases(path, ppds, lines, defaults):
-    """Adds a file's PPDs and lines; returns its cases. What stands before the first case goes to the defaults."""
-    cases, case, content = [], defaults, None
-    rows = path.read_bytes().split(b"\n")
-    for row, following in zip(rows, rows[1:] + [b""]):
-        if row.startswith((b"|", b"+ ")):
-            content += content_line(row[2:]) if row[:1] == b"|" else lines[row[2:]]
-            continue
-        word, _, argument = row.partition(b" ")
-        if word == b"case":
-            cases.append(case := {**defaults, b"case": argument.decode()})
-        elif word == b"lines":
-            content = lines[argument] = bytearray()
-        elif word == b"ppd" and following.startswith((b"|", b"+")):
-            content = ppds[argument] = bytearray()
-        elif word in (b"document", b"file", b"header", b"output", b"messages"):
-            content = case[word] = bytearray(argument)
-        elif word in (b"ticket", b"tickets", b"option"):
-            for option in argument.split() if word == b"tickets" else [argument]:
-                case[b"options"] += b" " + (b"" if word == b"option" else TICKET) + unescape(option)
-        elif word in DEFAULTS:
-            case[word] = unescape(argument)
-        elif row and word != b"#":
-            raise ValueError(f"{path}: {row}")
-    return cases
+def line_of(token):
+    """The line that a token stands for: @NAME=VALUE, a job attribute; :NAME=VALUE, a comment; NAME=VALUE, a setting."""
+    if not token.startswith(b"@"):
+        return content_line(b"@PJL COMMENT PRINTJOBINFO " + token[1:] if token[:1] == b":" else b"@PJL SET " + token)
+    value, end = re.fullmatch(rb"(.*?)((?<!\\)\\|\\r|\.\.\.|)", token).groups()
+    return content_line(b'@PJL SET JOBATTR="' + {b"\\": value + b"\\", b"...": b"\\"}.get(end, value + b'"' + end))
+
+
+def key_of(line):
+    """What tells the lines of a header apart: what precedes the equals sign in the token of the line."""
+    found = re.match(rb'@PJL (?:SET|(COMMENT) PRINTJOBINFO) (?:JOBATTR=")?(@?\w+)', line)
+    return found and (b":" if found[1] else b"") + found[2]
+
+
+class Content(list):
+    """Pairs of a key and a line, and places for lines: the keys that belong there (none: all others) and no line."""
+
+    def put(self, key, line):
+        own = [i for i, (item, _) in enumerate(self) if item == key]
+        if own:  # in place of the plain job's line; what follows with the same key goes after it
+            self[own[0]:own[-1] + 1] = [[[key], b""]]
+        places = {i: item for i, (item, _) in enumerate(self) if isinstance(item, list)}
+        place = [i for i in places if key in places[i]] or [i for i in places if not places[i]]
+        self.insert(place[0], [None, line])
+
+    def remove(self, key):
+        self[:] = [item for item in self if item[0] != key]
+
+    def __bytes__(self):
+        return b"".join(line for _, line in self)
+
+
+def rows_of(given, expected):
+    """A row for each alternative of [a|b]; on the right the n-th [c|d] goes with the n-th on the left, and all of them
+    with a single one."""
+    choices = [found[1].split(b"|") for found in CHOICE.finditer(given)]
+    if not choices:
+        yield given, expected
+        return
+    for i, value in enumerate(choices[0]):
+        left = CHOICE.sub(lambda _: value, given, count=1)
+        right = CHOICE.sub(lambda found: found[1].split(b"|")[i], expected, count=len(choices) > 1)
+        yield from rows_of(left, right)
+
+
+class JobFile:
+    """What a file of cases says; it starts with what common.jobs says."""
+
+    def __init__(self, path, common=None):
+        kinds = ("ppds", "plains", "lines", "words", "defaults", "documents")
+        for kind in kinds:
+            setattr(self, kind, dict(getattr(common, kind)) if common else {})
+        self.cases, self.like = [], dict(common.like) if common else {}
+        self.defaults = self.defaults or {**DEFAULTS, b"options": [], b"document": Content()}
+        self.read(path)
+
+    def read(self, path):
+        text = re.sub(rb"\\\n +", b"", path.read_bytes())  # an indented line goes on with the one before it,
+        rows = re.sub(rb"\n +", b" ", text).split(b"\n")  # without a blank where that ends with a backslash
+        case, content, table = self.defaults, None, None
+        for row, following in zip(rows, rows[1:] + [b""]):
+            word, _, argument = row.partition(b" ")
+            if row.startswith(b"| "):
+                line = content_line(argument)
+                content.append([key_of(line), line])
+            elif row == b"|":
+                content.append([None, b"\n"])
+            elif word == b"+":
+                content.extend(self.lines[argument])
+            elif word == b"?":
+                content.append([argument.split(), b""])
+            elif word == b"choice":  # an option of the PPD; the first value is the default
+                name, *values = argument.split()
+                text = b"*OpenUI *%s/%s: PickOne\n*Default%s: %s\n" % (name, name, name, values[0])
+                text += b"".join(b'*%s %s/%s: ""\n' % (name, value, value) for value in values)
+                content.append([None, text + b"*CloseUI: *%s\n" % name])
+            elif b" -> " in row:
+                left, right = row.split(b" # ")[0].split(b" -> ")
+                for given, expected in rows_of(left, right):
+                    if word in (b"line", b"feature"):
+                        self.append(case, given)
+                        self.expect(case, expected)
+                    else:
+                        self.cases.append({**self.defaults, b"case": table + given})
+                        self.give(self.cases[-1], table + given)
+                        self.expect(self.cases[-1], expected)
+            elif word == b"rows":
+                table = argument + b" "
+            elif word == b"word":
+                name, _, meaning = argument.partition(b" ")
+                self.words[name] = meaning
+            elif word == b"case":
+                self.cases.append(case := {**self.defaults, b"case": argument})
+            elif word == b"lines":
+                content = self.lines[argument] = Content()
+            elif word == b"plain":
+                content = self.plains[argument] = Content()
+            elif word == b"ppd" and (b" like " in argument or following.startswith((b"|", b"+", b"choice"))):
+                name, _, model = argument.partition(b" like ")
+                content = self.ppds[name] = Content(self.ppds.get(model, []))
+                self.like[name] = model
+            elif word in (b"document", b"file", b"header", b"output", b"messages"):
+                content = case[word] = Content([[None, argument]])
+            elif word in (b"ticket", b"tickets", b"option"):
+                for option in argument.split() if word == b"tickets" else [argument]:
+                    case[b"options"] = case[b"options"] + [(b"" if word == b"option" else PREFIX) + unescape(option)]
+            elif word == b"given":
+                self.give(case, argument)
+            elif word == b"expect":
+                self.expect(case, argument)
+            elif word in DEFAULTS:
+                case[word] = unescape(argument)
+            elif row and word != b"#":
+                raise ValueError(f"{path}: {row}")
+
+    def tokens(self, text):
+        for token in TOKEN.findall(text):
+            name, equals, value = token.partition(b"=")
+            if token in self.words:
+                yield from self.tokens(self.words[token])
+            else:
+                yield self.words[name + equals] + value if name + equals in self.words else token
+
+    def give(self, case, text):
+        for token in self.tokens(text):
+            name, _, value = token.partition(b"=")
+            if name in DEFAULTS:
+                case[name] = unescape(value)
+            else:
+                case[b"options"] = case[b"options"] + [(PREFIX if b"Ticket" in name else b"") + unescape(token)]
+
+    def append(self, case, row):
+        """Appends a line to the case's document, which is empty at first."""
+        if case[b"document"] is self.defaults[b"document"]:
+            case[b"document"] = Content()
+        word, _, text = row.partition(b" ")
+        case[b"document"].append([None, content_line((b"%%BeginFeature: " if word == b"feature" else b"") + text)])
+
+    def plain(self, ppd):
+        while ppd not in self.plains:
+            ppd = self.like.get(ppd) or b"legacy"
+        return Content(self.plains[ppd])
+
+    def expect(self, case, text):
+        """Puts lines into the plain job's header, those with @PLACE into the document."""
+        header = case.setdefault(b"header", self.plain(case[b"ppd"]))
+        for token in self.tokens(text):
+            name, _, place = token[1:].partition(b"@")
+            if token.startswith(b"-"):
+                header.remove(token[1:])
+            elif token.startswith(b"+") and place:
+                case[b"document"] = document = Content(case[b"document"])
+                sent = case.setdefault(b"sent", bytes(document))
+                document.put(place, bytes(self.lines[name]))
+            elif token.startswith(b"+"):
+                header.put(name, bytes(self.lines[name]))
+            elif token != b"plain":
+                header.put(re.match(rb"[@:]?\w*", token)[0], line_of(token))
 
 
 def openssl(*arguments, data=b""):
@@ -99,25 +234,28 @@ class Jobs(unittest.TestCase):
         self.assertEqual(job.returncode, 0, job.stderr)
         return job
 
-    def check(self, case, ppds, lines):
+    def check(self, file, case):
         path = self.folder / "case.ppd"
-        path.write_bytes(PPD_HEAD + ppds.get(case[b"ppd"], b""))
+        path.write_bytes(PPD_HEAD + bytes(file.ppds.get(case[b"ppd"], Content())))
         if case[b"ppd"].startswith(b"sample "):
             path = SAMPLES / (case[b"ppd"][7:].decode() + ".ppd")
-        arguments = [case[b"user"], case[b"title"], case[b"copies"], case[b"options"][1:]]
+        arguments = [case[b"user"], case[b"title"], case[b"copies"], b" ".join(case[b"options"])]
         if b"file" in case:
             arguments.append(bytes(case[b"file"]))
-            if not case[b"file"].startswith(b"/"):
+            if not arguments[-1].startswith(b"/"):
                 arguments[-1] = self.folder / "document.ps"
-                arguments[-1].write_bytes(case[b"file"])
-        job = self.run_filter(*arguments, document=case[b"document"], ppd=None if case[b"ppd"] == b"none" else path)
-
+                arguments[-1].write_bytes(bytes(case[b"file"]))
+        document = bytes(case[b"document"])
+        job = self.run_filter(*arguments, document=case.get(b"sent", document),
+                              ppd=None if case[b"ppd"] == b"none" else path)
         if EXPLAIN:
             shown = subprocess.run([EXPLAIN, "show", "--check"], input=job.stdout, capture_output=True)
             self.assertEqual((shown.returncode, shown.stdout, shown.stderr), (0, b"", b""))
-        expected = case[b"output"] if b"output" in case else case[b"header"] + case[b"document"] + lines[b"trailer"]
+
+        expected = bytes(case[b"output"]) if b"output" in case else (
+            bytes(case.get(b"header") or file.plain(case[b"ppd"])) + document + bytes(file.lines[b"trailer"]))
         sent_of_name = 32 if b"STRINGCODESET=UTF8" in expected else 96
-        expected = bytes(expected).replace(b"{host}", socket.gethostname().encode()[:sent_of_name])
+        expected = expected.replace(b"{host}", socket.gethostname().encode()[:sent_of_name])
         parts = re.split(rb"\{blob:(.*?)\}", expected)
         found = re.fullmatch(b"([A-Za-z0-9+/=]+)".join(map(re.escape, parts[::2])), job.stdout)
         if found:
@@ -143,15 +281,14 @@ class job_copy(Jobs):
 
 def define_classes():
     """One class a file, job_FILE, one test a case."""
-    ppds, lines, defaults = {}, {}, dict(DEFAULTS)
-    read_cases(DATA / "jobs" / "common.jobs", ppds, lines, defaults)
+    common = JobFile(DATA / "jobs" / "common.jobs")
     for path in DATA.glob("jobs/*.jobs"):
-        own_ppds, own_lines, tests = dict(ppds), dict(lines), {}
-        for case in read_cases(path, own_ppds, own_lines, dict(defaults)):
-            name = "test_" + re.sub(r"\W+", "_", case[b"case"])
-            assert name not in tests, name
-            tests[name] = (
-                lambda self, case=case, ppds=own_ppds, lines=own_lines: self.check(case, ppds, lines))
+        file, tests = JobFile(path, common), {}
+        for case in file.cases:
+            name = "test_" + re.sub(r"\W+", "_", case[b"case"].decode(errors="replace"))
+            if name in tests:  # names differ in letters only
+                name += f"_{len(tests)}"
+            tests[name] = lambda self, file=file, case=case: self.check(file, case)
         globals()["job_" + path.stem] = type("job_" + path.stem, (Jobs,), tests)
 
 
