@@ -3,58 +3,34 @@
 #include "BoundedText.h"
 #include "OutputSink.h"
 #include "PPDLookup.h"
-#include "TicketReader.h"
 
 #include <cstring>
-#include <iterator>
 #include <string_view>
-
-static const char kSidesTicketKey[] = "sides";
-static const char kColorModeTicketKey[] = "OVColorMode";
-static const char kStapleTicketKey[] = "OVStaple";
-static const char kQBPunchTicketKey[] = "OVPunch";
-static const char kQBSignatureTicketKey[] = "OVSignature";
-static const char kQBSigVolTicketKey[] = "OVSigVol";
-static const char KLineWeightAdjustment[] = "OVLineWeightAdjustment";
-static const char kTonerSaverKey[] = "OVTonerSaver";
-static const char kDetailedTonerSaverKey[] = "OVTonerReductionRate";
-static const char kDuplexBindingEdgeTicketKey[] = "DuplexBindingEdge..n.";
-static const char kCopiesTicketKey[] = "com.apple.print.PrintSettings.PMCopies..n.";
-static const char kOrientationTicketKey[] = "orientation-requested";
 
 static const char kOneSided[] = "one-sided";
 static const char kTwoSidedLongEdge[] = "two-sided-long-edge";
 static const char kTwoSidedShortEdge[] = "two-sided-short-edge";
 
-const char kChoiceNone[] = "None";
-
 CommentOptions psoptioncomment;
 
-static const ticketData CommentticketData[] = {
-    {kSidesTicketKey, psoptioncomment.sides, sizeof psoptioncomment.sides, GetTicketStringConvertedToPrtLang},
-    {kColorModeTicketKey, psoptioncomment.colorMode, sizeof psoptioncomment.colorMode,
-     GetTicketStringConvertedToPrtLang},
-    {kNumberUpTicketKey, psoptioncomment.numberUp, sizeof psoptioncomment.numberUp, GetNumberUpTicketStringForComment},
-    {kStapleTicketKey, psoptioncomment.staple, sizeof psoptioncomment.staple, GetTicketStringConvertedToPrtLang},
-    {kQBPunchTicketKey, psoptioncomment.punch, sizeof psoptioncomment.punch, GetTicketStringConvertedToPrtLang},
-    {kQBPunchHoleTicketKey, psoptioncomment.punchHoles, sizeof psoptioncomment.punchHoles,
-     GetTicketStringConvertedToPrtLang},
-    {kQBSignatureTicketKey, psoptioncomment.signature, sizeof psoptioncomment.signature,
-     GetTicketStringConvertedToPrtLang},
-    {kQBSigVolTicketKey, psoptioncomment.signatureVolume, sizeof psoptioncomment.signatureVolume,
-     GetTicketStringConvertedToPrtLang},
-    {KLineWeightAdjustment, psoptioncomment.lineWeight, sizeof psoptioncomment.lineWeight,
-     GetTicketStringConvertedToPrtLang},
-    {kTonerSaverKey, psoptioncomment.tonerSaver, sizeof psoptioncomment.tonerSaver, GetTicketStringConvertedToPrtLang},
-    {kDetailedTonerSaverKey, psoptioncomment.tonerReductionRate, sizeof psoptioncomment.tonerReductionRate,
-     GetTicketStringConvertedToPrtLang},
-    {kDuplexBindingEdgeTicketKey, &psoptioncomment.duplexBindingEdge, sizeof psoptioncomment.duplexBindingEdge,
-     GetTicketInteger},
-    {kCopiesTicketKey, &psoptioncomment.copies, sizeof psoptioncomment.copies, GetTicketInteger},
-    {kOrientationTicketKey, &psoptioncomment.orientation, sizeof psoptioncomment.orientation, GetTicketInteger},
-    {kLayoutDirectionTicketKey, &psoptioncomment.layoutDirection, sizeof psoptioncomment.layoutDirection,
-     GetTicketInteger},
+constexpr ticketData tickets[] = {
+    TextTicket(kSidesTicketKey, psoptioncomment.sides),
+    TextTicket(kColorModeTicketKey, psoptioncomment.colorMode),
+    TextTicket(kNumberUpTicketKey, psoptioncomment.numberUp, GetNumberUpTicketStringForComment),
+    TextTicket(kStapleTicketKey, psoptioncomment.staple),
+    TextTicket(kQBPunchTicketKey, psoptioncomment.punch),
+    TextTicket(kQBPunchHoleTicketKey, psoptioncomment.punchHoles),
+    TextTicket(kQBSignatureTicketKey, psoptioncomment.signature),
+    TextTicket(kQBSigVolTicketKey, psoptioncomment.signatureVolume),
+    TextTicket(KLineWeightAdjustment, psoptioncomment.lineWeight),
+    TextTicket(kTonerSaverKey, psoptioncomment.tonerSaver),
+    TextTicket(kDetailedTonerSaverKey, psoptioncomment.tonerReductionRate),
+    IntegerTicket(kDuplexBindingEdgeTicketKey, psoptioncomment.duplexBindingEdge),
+    IntegerTicket(kCopiesTicketKey, psoptioncomment.copies),
+    IntegerTicket(kOrientationTicketKey, psoptioncomment.orientation),
+    IntegerTicket(kLayoutDirectionTicketKey, psoptioncomment.layoutDirection),
 };
+constinit const TicketTable CommentticketData = tickets;
 
 // Either of the two settings selects the line; the first row that has one of them decides.
 struct DuplexLine {
@@ -71,7 +47,7 @@ static const DuplexLine duplexLines[] = {
 void CommentGetTicketFromPDE(const char *const *argv)
 {
     psoptioncomment = {};
-    GetTicketFromArray(argv, CommentticketData, std::size(CommentticketData));
+    GetTicketFromArray(argv, CommentticketData);
 
     // The dialog's collation is known by a word anywhere among the options.
     const char *options = OptionsOfJob(argv).text;
@@ -91,18 +67,6 @@ void CommentGetTicketFromPDE(const char *const *argv)
         psoptioncomment.orientation = 1;
     if (psoptioncomment.layoutDirection == -1)
         psoptioncomment.layoutDirection = 1;
-}
-
-JobColor CommentJobColor()
-{
-    const std::string_view mode = psoptioncomment.colorMode;
-    if (mode.empty())
-        return IsColorDeivce() == 1 && getDefaultColorMode() == 1 ? JobColor::Color : JobColor::Grayscale;
-    if (mode == DefaultQBColorModeColor)
-        return JobColor::Color;
-    if (mode == DefaultQBColorModeBlack)
-        return JobColor::Grayscale;
-    return PPDHasOption(kColorModeTicketKey) ? JobColor::Unstated : JobColor::Grayscale;
 }
 
 void OutputZPJLCommandforCommentVersionLow()
@@ -156,7 +120,7 @@ static void OutputDuplex()
 
 static void OutputColorMode()
 {
-    switch (CommentJobColor()) {
+    switch (ColorOfJob(psoptioncomment.colorMode)) {
     case JobColor::Color:
         QBfputs("@PJL COMMENT PRINTJOBINFO COLORMODE=COLOR\n", stdout);
         break;

@@ -2,12 +2,27 @@
 // The booklet and image quality lines read the same record.
 #pragma once
 
+#include "TicketReader.h"
+
 #include <cstddef>
 #include <cstdint>
 
+// The options. Colour mode, number-up, punch holes and layout direction are keys that others read as well.
+inline constexpr char kSidesTicketKey[] = "sides";
+inline constexpr char kStapleTicketKey[] = "OVStaple";
+inline constexpr char kQBPunchTicketKey[] = "OVPunch";
+inline constexpr char kQBSignatureTicketKey[] = "OVSignature";
+inline constexpr char kQBSigVolTicketKey[] = "OVSigVol";
+inline constexpr char KLineWeightAdjustment[] = "OVLineWeightAdjustment";
+inline constexpr char kTonerSaverKey[] = "OVTonerSaver";
+inline constexpr char kDetailedTonerSaverKey[] = "OVTonerReductionRate";
+inline constexpr char kDuplexBindingEdgeTicketKey[] = "DuplexBindingEdge..n.";
+inline constexpr char kCopiesTicketKey[] = "com.apple.print.PrintSettings.PMCopies..n.";
+inline constexpr char kOrientationTicketKey[] = "orientation-requested";
+
 constexpr size_t kCommentTextSize = 256;
 
-// Texts are empty and integers -1 when their option is absent.
+// Texts are empty and integers -1 when their option is absent, but for what the reading settles.
 struct CommentOptions {
     char sides[kCommentTextSize];
     char colorMode[kCommentTextSize];
@@ -16,29 +31,26 @@ struct CommentOptions {
     char staple[kCommentTextSize];
     char punch[kCommentTextSize];
     char punchHoles[kCommentTextSize];
-    char signature[kCommentTextSize];       // booklet
-    char signatureVolume[kCommentTextSize]; // sheets of one part of it
+    char signature[kCommentTextSize];       // how a booklet is folded
+    char signatureVolume[kCommentTextSize]; // how many sheets each part of the booklet has
     char lineWeight[kCommentTextSize];
     char tonerSaver[kCommentTextSize];
     char tonerReductionRate[kCommentTextSize];
     int32_t duplexBindingEdge;
     int32_t copies;
-    int32_t orientation;     // IPP orientation-requested
+    int32_t orientation;     // 1 upright; 4, 5 and 6 as in IPP, whose own upright, 3, has no meaning here
     int32_t layoutDirection; // order of the pages on a sheet
 };
 extern CommentOptions psoptioncomment;
 
+extern const TicketTable CommentticketData;
+
 // What "no such thing" is called among the choices of staple, punch and booklet.
-extern const char kChoiceNone[];
+inline constexpr char kChoiceNone[] = "None";
 
 // Reads the record from the job's options; what depends on other settings is settled here. Orientation and layout
 // direction are 1 when absent.
 void CommentGetTicketFromPDE(const char *const *argv);
-
-// How the job is rendered: by its colour mode or, without one, by the queue's PPD. Unstated: the PPD's own choice, for
-// which no line is written.
-enum class JobColor { Unstated, Color, Grayscale };
-JobColor CommentJobColor();
 
 // The lines of the block. The header writes version low, begin, basic and end.
 void OutputZPJLCommandforCommentVersionLow();

@@ -12,7 +12,7 @@ static const char rotatedPortrait[] = "@PJL COMMENT PRINTJOBINFO ORIENTATION=ROT
 static const char rotatedLandscape[] = "@PJL COMMENT PRINTJOBINFO ORIENTATION=ROTATEDLANDSCAPE\n";
 
 // signature: how the sheets are folded. pages: what the number-up does to the page: nothing, keeps its orientation
-// (square layouts), or turns it. The others are the lines for the four values of orientation-requested.
+// (square layouts), or turns it. The others are the lines for the four orientations.
 enum class Signature { None, Left, Right, Other };
 enum class Pages { One, Square, Turned, Other };
 struct OrientationLines {

@@ -75,7 +75,7 @@ static void OutputLineWeight()
 
 static void OutputRenderMode()
 {
-    switch (CommentJobColor()) {
+    switch (ColorOfJob(psoptioncomment.colorMode)) {
     case JobColor::Color:
         QBfputs("@PJL SET RENDERMODE=COLOR\n", stdout);
         break;

@@ -7,8 +7,8 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 #include <string>
+#include <string_view>
 
 // A bind position of the dialog, PJL's word for it, and how it turns the sheet.
 struct PBindPosition {
@@ -26,6 +26,33 @@ static const PBindPosition bindPositions[] = {
 
 static const char kMinimumCutPosition[] = "7mm";
 
+// What becomes of the tickets' cuts.
+enum class Cut { AsTicket, None, Minimum };
+
+// A trimming of the dialog, PJL's word for it (null keeps the dialog's), and what becomes of the cuts.
+// family: the row is for every other value that begins so.
+struct PBindTrimming {
+    const char *dialogValue;
+    bool family;
+    const char *pjlValue;
+    Cut pageSize;
+    Cut fore;
+    Cut top;
+};
+
+// The first row that fits decides; the last fits every value.
+static const PBindTrimming trimmings[] = {
+    {"None", false, "OFF", Cut::None, Cut::None, Cut::None},
+    {"1EdgeCut", false, "FACE", Cut::None, Cut::AsTicket, Cut::None},
+    {"1EdgeCutMinimum", false, "FACE", Cut::None, Cut::Minimum, Cut::None},
+    {"1EdgeSpecifySize", false, "FACE", Cut::AsTicket, Cut::None, Cut::None},
+    {"3EdgeCutMinimum", false, "FULLBLEED", Cut::None, Cut::Minimum, Cut::Minimum},
+    {"3EdgeSpecifySize", false, "FULLBLEED", Cut::AsTicket, Cut::None, Cut::None},
+    {"1Edge", true, "FACE", Cut::None, Cut::AsTicket, Cut::AsTicket},
+    {"3Edge", true, "FULLBLEED", Cut::None, Cut::AsTicket, Cut::AsTicket},
+    {"", true, nullptr, Cut::None, Cut::AsTicket, Cut::AsTicket},
+};
+
 // In 0.1 mm.
 struct PBindPageSize {
     int64_t width = 0;
@@ -42,7 +69,7 @@ static bool TextIs(const char *text, const char *value)
     return strcmp(text, value) == 0;
 }
 
-// The number that the text begins with, else 0; one too large keeps its low 32 bits.
+// The number that the text begins with, else 0. It is read as a 64-bit one, and its low 32 bits count.
 static int64_t Number(const char *text)
 {
     return static_cast<int32_t>(strtoll(text, nullptr, 10));
@@ -55,7 +82,8 @@ static int64_t CutPosition(const char *text)
     return position.size() < 2 ? 0 : Number(position.substr(0, position.size() - 2).c_str());
 }
 
-// Whole millimetres of 17/6 points each, as the machine counts them. What no paper measures is 0.
+// Points to the unit of the lines, in whole millimetres: 60 of them are 170 points to these printers. A size that no
+// paper can have is 0.
 static int64_t PointsToLength(float points)
 {
     constexpr float kFarBeyondPaper = 1e15F;
@@ -97,33 +125,24 @@ static void NormalizeBindPosition(PBindOptions &options)
     }
 }
 
+static void NormalizeCut(char (&cut)[kPBindTextSize], Cut rule)
+{
+    if (rule != Cut::AsTicket)
+        CopyCut(cut, rule == Cut::Minimum ? kMinimumCutPosition : "");
+}
+
 static void NormalizeTrimming(PBindOptions &options)
 {
-    const std::string trimming = options.trimming;
-    const bool none = trimming == "None";
-    const bool cutToSize = trimming == "3EdgeSpecifySize" || trimming == "1EdgeSpecifySize";
-    const bool threeMinimum = trimming == "3EdgeCutMinimum";
-    const bool oneMinimum = trimming == "1EdgeCutMinimum";
-
-    if (!cutToSize)
-        CopyCut(options.cutPageSize, "");
-    if (none || cutToSize)
-        CopyCut(options.cutPositionFore, "");
-    if (none || cutToSize || oneMinimum || trimming == "1EdgeCut")
-        CopyCut(options.cutPositionTop, "");
-    if (threeMinimum || oneMinimum) {
-        CopyCut(options.cutPositionFore, kMinimumCutPosition);
-        options.minimumCut = true;
-    }
-    if (threeMinimum)
-        CopyCut(options.cutPositionTop, kMinimumCutPosition);
-
-    if (none)
-        CopyCut(options.trimming, "OFF");
-    else if (trimming.starts_with("1Edge"))
-        CopyCut(options.trimming, "FACE");
-    else if (trimming.starts_with("3Edge"))
-        CopyCut(options.trimming, "FULLBLEED");
+    const std::string_view trimming = options.trimming;
+    const auto *row = trimmings;
+    while (row->family ? !trimming.starts_with(row->dialogValue) : trimming != row->dialogValue)
+        row++;
+    NormalizeCut(options.cutPageSize, row->pageSize);
+    NormalizeCut(options.cutPositionFore, row->fore);
+    NormalizeCut(options.cutPositionTop, row->top);
+    options.minimumCut = row->fore == Cut::Minimum;
+    if (row->pjlValue)
+        CopyCut(options.trimming, row->pjlValue);
 }
 
 // The size after the cut, and how far the image moves for it.
@@ -201,7 +220,7 @@ static void OutputCover(const PBindOptions &options)
 void PBindGetTicketFromPDE(const char *const *argv)
 {
     psoptionpbind = {};
-    GetTicketFromArray(argv, PBindticketData, std::size(PBindticketData));
+    GetTicketFromArray(argv, PBindticketData);
     NormalizeBindPosition(psoptionpbind);
     NormalizeTrimming(psoptionpbind);
 }

@@ -35,7 +35,7 @@ struct PBindOptions {
 
 extern PBindOptions psoptionpbind;
 
-extern const ticketData PBindticketData[19];
+extern const TicketTable PBindticketData;
 
 // The value of the PPD or the dialog, and that of PJL.
 struct PBindParam {

@@ -2,32 +2,30 @@
 
 PBindOptions psoptionpbind;
 
-template <size_t N> static constexpr ticketData TextRow(const char *key, char (&field)[N])
-{
-    return {key, field, N, GetTicketStringConvertedToPrtLang};
-}
+static constexpr PBindOptions &option = psoptionpbind;
 
-const ticketData PBindticketData[19] = {
-    TextRow("OVPBindPosition", psoptionpbind.bindPosition),
-    TextRow("OVPBindTrimming", psoptionpbind.trimming),
-    TextRow("OVPBindCutPageSize", psoptionpbind.cutPageSize),
-    {"noOVPBindImagePosition", &psoptionpbind.imagePosition, sizeof psoptionpbind.imagePosition, GetTicketInteger},
-    TextRow("OVPBindCutPositionTop", psoptionpbind.cutPositionTop),
-    TextRow("OVPBindCutPositionFore", psoptionpbind.cutPositionFore),
-    TextRow("OVPBindPageSize", psoptionpbind.pageSize),
-    TextRow("OVPBindCoverPageSize", psoptionpbind.coverPageSize),
-    TextRow("OVPBindCoverMediaType", psoptionpbind.coverMediaType),
-    TextRow("OVPBindCoverMediaColor", psoptionpbind.coverMediaColor),
-    TextRow("OVPBindCoverPaperTray", psoptionpbind.coverPaperTray),
-    TextRow("OVPBindRotationAdjustTop", psoptionpbind.rotationAdjustTop),
-    TextRow("OVPBindRotationAdjustBot", psoptionpbind.rotationAdjustBottom),
-    TextRow("OVPBindRotationAdjustFore", psoptionpbind.rotationAdjustFore),
-    TextRow("OVPBindCutPageAdjustmentTB", psoptionpbind.cutPageAdjustmentTB),
-    TextRow("OVPBindCutPageAdjustmentFore", psoptionpbind.cutPageAdjustmentFore),
-    TextRow("OVPBindCutPositionAdjustmentTB", psoptionpbind.cutPositionAdjustmentTB),
-    TextRow("OVPBindCoverAdjustX", psoptionpbind.coverAdjustX),
-    TextRow("OVPBindCoverAdjustY", psoptionpbind.coverAdjustY),
+constexpr ticketData tickets[] = {
+    TextTicket("OVPBindPosition", option.bindPosition),
+    TextTicket("OVPBindTrimming", option.trimming),
+    TextTicket("OVPBindCutPageSize", option.cutPageSize),
+    IntegerTicket("noOVPBindImagePosition", option.imagePosition),
+    TextTicket("OVPBindCutPositionTop", option.cutPositionTop),
+    TextTicket("OVPBindCutPositionFore", option.cutPositionFore),
+    TextTicket("OVPBindPageSize", option.pageSize),
+    TextTicket("OVPBindCoverPageSize", option.coverPageSize),
+    TextTicket("OVPBindCoverMediaType", option.coverMediaType),
+    TextTicket("OVPBindCoverMediaColor", option.coverMediaColor),
+    TextTicket("OVPBindCoverPaperTray", option.coverPaperTray),
+    TextTicket("OVPBindRotationAdjustTop", option.rotationAdjustTop),
+    TextTicket("OVPBindRotationAdjustBot", option.rotationAdjustBottom),
+    TextTicket("OVPBindRotationAdjustFore", option.rotationAdjustFore),
+    TextTicket("OVPBindCutPageAdjustmentTB", option.cutPageAdjustmentTB),
+    TextTicket("OVPBindCutPageAdjustmentFore", option.cutPageAdjustmentFore),
+    TextTicket("OVPBindCutPositionAdjustmentTB", option.cutPositionAdjustmentTB),
+    TextTicket("OVPBindCoverAdjustX", option.coverAdjustX),
+    TextTicket("OVPBindCoverAdjustY", option.coverAdjustY),
 };
+constinit const TicketTable PBindticketData = tickets;
 
 const PBindParam PerfectBindParam[] = {
     // sizes

@@ -7,7 +7,7 @@
 #include <charconv>
 #include <cinttypes>
 #include <cstring>
-#include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
 #include <strings.h>
@@ -15,27 +15,21 @@
 
 constexpr int32_t kItemTicketSize = 256; // key and value of an item's ticket, NUL included
 
-using Field = char[kSpecialPageFieldSize];
-
-// The paper of an item, as its value names it.
-struct SpecialPageMedia {
-    Field type;
-    Field colour;
-    Field width;
-    Field height;
-};
+using ItemField = SpecialPageField SpecialPageItem::*;
 
 // command: the first field of the command tickets that belong to this kind.
 // paperPosition: where their paper selection starts; a fixed character, whatever fields stand before it.
 // valueTicket: the key of an item's value, without its index.
 // count: the number of items.
+// fields: where the fields of an item's value belong, in their order.
 // output: writes the lines of one item.
 struct SpecialPageKind {
     const char *command;
     size_t paperPosition;
     const char *valueTicket;
     int32_t SpecialPageOptions::*count;
-    void (*output)(const char *value, const char *paperSelection);
+    std::span<const ItemField> fields;
+    void (*output)(const SpecialPageItem &item, const char *paperSelection);
 };
 
 static const char kCommandTicket[] = "com.orvane.dlg.printsettings.ZPIFCommandTicket";
@@ -45,108 +39,90 @@ static void OutputAttribute(const char *name, const char *value)
     QBfprintfCut(stdout, kMaxDirectLineSize, "@PJL SET JOBATTR=\"@%s=%s\"\n", name, value);
 }
 
-// `dest` is zeroed and receives the mapped value; one that the table lacks writes nothing.
-static void OutputMapped(const char *name, const char *key, const char *const *table, int32_t count, char *dest)
+// A value that the table lacks writes nothing.
+static void OutputMapped(const char *name, const char *key, const char *const *table, int32_t count)
 {
-    if (getSpecialPageZPJLValue(key, table, count, dest) == 0)
-        OutputAttribute(name, dest);
+    SpecialPageField value = "";
+    if (getSpecialPageZPJLValue(key, table, count, value) == 0)
+        OutputAttribute(name, value);
 }
 
-// Reads the field at `offset` and moves on to the next; behind the last one every field is empty.
-static void TakeField(const char *value, int32_t &offset, Field &field)
-{
-    memset(field, 0, sizeof field);
-    const int32_t next = getOneValue(value + offset, field);
-    offset += next > 0 ? next : static_cast<int32_t>(strlen(value + offset));
-}
-
-static void OutputMedia(const SpecialPageMedia &media, const char *paperSelection, char *colourOut)
+static void OutputMedia(const SpecialPageItem &item, const char *paperSelection)
 {
     const bool custom = strcmp(paperSelection, CustomPapertyeSelectNumber) == 0;
     OutputAttribute("EMCP", custom ? "CUSTOM" : "FORMALSIZE");
-    OutputAttribute("EMCW", media.width);
-    OutputAttribute("EMCH", media.height);
-    OutputAttribute("EMCQ", media.type);
-    OutputMapped("EMCC", media.colour, MediaColorZPJLComm, MediaColorZPJLCommValueCount, colourOut);
+    OutputAttribute("EMCW", item.width);
+    OutputAttribute("EMCH", item.height);
+    OutputAttribute("EMCQ", item.mediaType);
+    OutputMapped("EMCC", item.colour, MediaColorZPJLComm, MediaColorZPJLCommValueCount);
 }
 
-static void OutputTrayOrMedia(const char *tray, const SpecialPageMedia &media, const char *paperSelection,
-                              char *colourOut)
-{
-    if (strcmp(tray, "0") == 0)
-        OutputAttribute("EMCT", "TRAYT1");
-    else if (strcmp(tray, "1") == 0)
-        OutputMedia(media, paperSelection, colourOut);
-}
-
-static void OutputCover(const char *value, const char *paperSelection)
+static void OutputCover(const SpecialPageItem &item, const char *paperSelection)
 {
     const bool onlyCover = psOptionSpecialPage.coverCount == 1;
-    Field side, tray, printType, pjlType = "", pjlColour = "";
-    int32_t offset = 0;
-    TakeField(value, offset, side);
-    TakeField(value, offset, tray);
-    TakeField(value, offset, printType);
-
-    if (strcmp(side, "0") == 0) {
-        OutputMapped("EFCV", printType, CoverTypeZPJLComm, CoverTypeZPJLCommValueCount, pjlType);
-        OutputSPMediaSizeAndColor(tray, offset, value, paperSelection, pjlColour);
+    if (strcmp(item.side, "0") == 0) {
+        OutputMapped("EFCV", item.printType, CoverTypeZPJLComm, CoverTypeZPJLCommValueCount);
+        OutputSPMediaSizeAndColor(item, paperSelection);
         if (onlyCover)
             OutputAttribute("EBCV", "NONE");
-    } else if (strcmp(side, "1") == 0) {
+    } else if (strcmp(item.side, "1") == 0) {
         if (onlyCover)
             OutputAttribute("EFCV", "NONE");
-        OutputMapped("EBCV", printType, CoverTypeZPJLComm, CoverTypeZPJLCommValueCount, pjlType);
-        OutputSPMediaSizeAndColor(tray, offset, value, paperSelection, pjlColour);
+        OutputMapped("EBCV", item.printType, CoverTypeZPJLComm, CoverTypeZPJLCommValueCount);
+        OutputSPMediaSizeAndColor(item, paperSelection);
     }
 }
 
-static void OutputInsertion(const char *value, const char *paperSelection)
+static void OutputInsertion(const SpecialPageItem &item, const char *paperSelection)
 {
-    Field tray, position, sheets, pjlColour = "";
-    SpecialPageMedia media;
-    int32_t offset = 0;
-    TakeField(value, offset, tray);
-    TakeField(value, offset, position);
-    TakeField(value, offset, sheets);
-    TakeField(value, offset, media.colour);
-    TakeField(value, offset, media.width);
-    TakeField(value, offset, media.height);
-    TakeField(value, offset, media.type);
-
-    OutputAttribute("EIST", position);
-    OutputTrayOrMedia(tray, media, paperSelection, pjlColour);
-    OutputAttribute("EISC", sheets);
+    OutputAttribute("EIST", item.position);
+    OutputSPMediaSizeAndColor(item, paperSelection);
+    OutputAttribute("EISC", item.sheets);
 }
 
-static void OutputException(const char *value, const char *paperSelection)
+static void OutputException(const SpecialPageItem &item, const char *paperSelection)
 {
-    Field unused, start, end, sides, pjlSides = "", pjlColour = "";
-    SpecialPageMedia media;
-    int32_t offset = 0;
-    for (int i = 0; i < 3; i++)
-        TakeField(value, offset, unused);
-    TakeField(value, offset, start);
-    TakeField(value, offset, end);
-    TakeField(value, offset, sides);
-    TakeField(value, offset, media.type);
-    TakeField(value, offset, media.colour);
-    TakeField(value, offset, media.width);
-    TakeField(value, offset, media.height);
+    OutputAttribute("EOVS", item.start);
+    OutputMedia(item, paperSelection);
+    OutputMapped("EMDP", item.sides, SidesZPJLComm, SidesZPJLCommValueCount);
+    OutputAttribute("EOVE", item.end);
+}
 
-    OutputAttribute("EOVS", start);
-    OutputMedia(media, paperSelection, pjlColour);
-    OutputMapped("EMDP", sides, SidesZPJLComm, SidesZPJLCommValueCount, pjlSides);
-    OutputAttribute("EOVE", end);
+static const ItemField coverFields[] = {
+    &SpecialPageItem::side,   &SpecialPageItem::tray,  &SpecialPageItem::printType, &SpecialPageItem::mediaType,
+    &SpecialPageItem::colour, &SpecialPageItem::width, &SpecialPageItem::height,
+};
+static const ItemField insertionFields[] = {
+    &SpecialPageItem::tray,  &SpecialPageItem::position, &SpecialPageItem::sheets,    &SpecialPageItem::colour,
+    &SpecialPageItem::width, &SpecialPageItem::height,   &SpecialPageItem::mediaType,
+};
+static const ItemField exceptionFields[] = {
+    &SpecialPageItem::unused, &SpecialPageItem::unused, &SpecialPageItem::unused,    &SpecialPageItem::start,
+    &SpecialPageItem::end,    &SpecialPageItem::sides,  &SpecialPageItem::mediaType, &SpecialPageItem::colour,
+    &SpecialPageItem::width,  &SpecialPageItem::height,
+};
+
+// Fields that the value lacks stay empty.
+static SpecialPageItem TakeFields(const char *value, std::span<const ItemField> fields)
+{
+    SpecialPageItem item = {};
+    for (const ItemField field : fields) {
+        const int32_t next = getOneValue(value, item.*field);
+        if (next <= 0)
+            break;
+        value += next;
+    }
+    return item;
 }
 
 // In output order.
 static const SpecialPageKind itemKinds[] = {
-    {"0", 6, "com.orvane.dlg.printsettings.ZPIFCoverValueTicket_", &SpecialPageOptions::coverCount, OutputCover},
+    {"0", 6, "com.orvane.dlg.printsettings.ZPIFCoverValueTicket_", &SpecialPageOptions::coverCount, coverFields,
+     OutputCover},
     {"1", 8, "com.orvane.dlg.printsettings.ZPIFInsertionValueTicket_", &SpecialPageOptions::insertionCount,
-     OutputInsertion},
+     insertionFields, OutputInsertion},
     {"2", 4, "com.orvane.dlg.printsettings.ZPIFExceptionValueTicket_", &SpecialPageOptions::exceptionCount,
-     OutputException},
+     exceptionFields, OutputException},
 };
 
 // The indexes below `count` that the job has tickets for, ascending. A count is only a number in a ticket: asking for
@@ -182,7 +158,7 @@ static std::vector<std::string> PaperSelections(const JobOptions &options, const
     std::vector<std::string> selections;
     for (const int64_t index : TicketIndexes(options, kCommandTicket, commandCount)) {
         char command[kItemTicketSize];
-        Field first = "", selection = "";
+        SpecialPageField first = "", selection = "";
         if (!ReadItemTicket(options, kCommandTicket, index, command))
             continue;
         getOneValue(command, first);
@@ -204,7 +180,7 @@ static void OutputItems(const JobOptions &options, const SpecialPageKind &kind, 
         if (!ReadItemTicket(options, kind.valueTicket, index, value))
             continue;
         const size_t item = static_cast<size_t>(index);
-        kind.output(value, item < selections.size() ? selections[item].c_str() : "");
+        kind.output(TakeFields(value, kind.fields), item < selections.size() ? selections[item].c_str() : "");
     }
 }
 
@@ -215,7 +191,7 @@ void SpecialPageInializeDescriptionTable()
 
 void SpecialPageGetTicketFromPDE(const char *const *argv)
 {
-    GetTicketFromArray(argv, SpecialPageTicketData, std::size(SpecialPageTicketData));
+    GetTicketFromArray(argv, SpecialPageTicketData);
 }
 
 void OutputZPJLCommandForSpecialPage(const char *const *argv)
@@ -253,13 +229,10 @@ int32_t getSpecialPageZPJLValue(const char *key, const char *const *table, int32
     return -1;
 }
 
-void OutputSPMediaSizeAndColor(const char *trayField, int32_t offset, const char *value, const char *paperSelection,
-                               char *colourOut)
+void OutputSPMediaSizeAndColor(const SpecialPageItem &item, const char *paperSelection)
 {
-    SpecialPageMedia media;
-    TakeField(value, offset, media.type);
-    TakeField(value, offset, media.colour);
-    TakeField(value, offset, media.width);
-    TakeField(value, offset, media.height);
-    OutputTrayOrMedia(trayField, media, paperSelection, colourOut);
+    if (strcmp(item.tray, "0") == 0)
+        OutputAttribute("EMCT", "TRAYT1");
+    else if (strcmp(item.tray, "1") == 0)
+        OutputMedia(item, paperSelection);
 }

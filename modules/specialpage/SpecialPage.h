@@ -16,7 +16,7 @@ struct SpecialPageOptions {
 
 extern SpecialPageOptions psOptionSpecialPage;
 
-extern const ticketData SpecialPageTicketData[3];
+extern const TicketTable SpecialPageTicketData;
 
 // The paper selection that stands for a custom size.
 extern const char CustomPapertyeSelectNumber[];
@@ -31,9 +31,22 @@ extern const int32_t SidesZPJLCommValueCount;
 
 // Size of the buffer of one field of an item's value, NUL included; a longer field is cut.
 constexpr size_t kSpecialPageFieldSize = 50;
+using SpecialPageField = char[kSpecialPageFieldSize];
 
+// An item's value, taken apart; the fields that its kind does not have are empty.
+struct SpecialPageItem {
+    SpecialPageField side, tray, printType;            // of a cover
+    SpecialPageField position, sheets;                 // of an insertion
+    SpecialPageField unused, start, end, sides;        // of an exception
+    SpecialPageField mediaType, colour, width, height; // its paper
+};
+
+// Puts the record back to the start of a job.
 void SpecialPageInializeDescriptionTable();
+
 void SpecialPageGetTicketFromPDE(const char *const *argv);
+
+// Writes the lines of every item that has a value, covers first, then insertions and exceptions.
 void OutputZPJLCommandForSpecialPage(const char *const *argv);
 
 // Copies the first field of `source`, up to a "," or the end, into a zeroed buffer of kSpecialPageFieldSize bytes.
@@ -44,7 +57,5 @@ int32_t getOneValue(const char *source, char *dest);
 // has no such key.
 int32_t getSpecialPageZPJLValue(const char *key, const char *const *table, int32_t count, char *dest);
 
-// Writes where a cover's paper comes from. `offset` is where the media fields start in `value`; `colourOut`, zeroed and
-// of kSpecialPageFieldSize bytes, receives the PJL colour when it is written.
-void OutputSPMediaSizeAndColor(const char *trayField, int32_t offset, const char *value, const char *paperSelection,
-                               char *colourOut);
+// Writes where the paper of a cover or an insertion comes from: a tray, or what the paper is.
+void OutputSPMediaSizeAndColor(const SpecialPageItem &item, const char *paperSelection);

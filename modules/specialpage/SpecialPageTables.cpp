@@ -4,16 +4,12 @@
 
 SpecialPageOptions psOptionSpecialPage;
 
-static constexpr ticketData CountRow(const char *key, int32_t &count)
-{
-    return {key, &count, sizeof count, GetTicketInteger};
-}
-
-const ticketData SpecialPageTicketData[3] = {
-    CountRow("com.orvane.dlg.printsettings.ZPIFCoverCountTicket", psOptionSpecialPage.coverCount),
-    CountRow("com.orvane.dlg.printsettings.ZPIFInsertionCountTicket", psOptionSpecialPage.insertionCount),
-    CountRow("com.orvane.dlg.printsettings.ZPIFExceptionCountTicket", psOptionSpecialPage.exceptionCount),
+constexpr ticketData tickets[] = {
+    IntegerTicket("com.orvane.dlg.printsettings.ZPIFCoverCountTicket", psOptionSpecialPage.coverCount),
+    IntegerTicket("com.orvane.dlg.printsettings.ZPIFInsertionCountTicket", psOptionSpecialPage.insertionCount),
+    IntegerTicket("com.orvane.dlg.printsettings.ZPIFExceptionCountTicket", psOptionSpecialPage.exceptionCount),
 };
+constinit const TicketTable SpecialPageTicketData = tickets;
 
 const char CustomPapertyeSelectNumber[] = "33";
 

@@ -6,14 +6,11 @@
 #include "JobState.h"
 #include "PrintType.h"
 #include "SpecialPage.h"
+#include "TestPPD.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <span>
 #include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 
 using Job = std::vector<const char *>; // title, options
@@ -21,17 +18,13 @@ using Job = std::vector<const char *>; // title, options
 // What the last of the jobs writes, and its status.
 static std::string OutputOfLast(const std::vector<Job> &jobs)
 {
-    const std::string files = testing::TempDir() + "second-job." + std::to_string(getpid());
-    const std::string document = files + ".ps", ppd = files + ".ppd";
+    const TestPPD ppd("*OVPrinterLanguageEncoding: \"SJIS\"\n"); // takes the comment
+    const std::string document = ppd.path + ".ps";
     std::ofstream(document) << "%!PS\n%%BeginProlog\n%%EndPageSetup\nep\n%%EndPageSetup\nep\n";
-    std::ofstream(ppd) << "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
-                          "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n"
-                          "*OVPrinterLanguageEncoding: \"SJIS\"\n"; // takes the comment
     FILE *output = tmpfile();
     fflush(nullptr);
     const pid_t child = fork();
     if (child == 0) {
-        setenv("PPD", ppd.c_str(), 1);
         dup2(fileno(output), STDOUT_FILENO);
         int status = 0;
         for (const Job &job : jobs) {
@@ -47,7 +40,6 @@ static std::string OutputOfLast(const std::vector<Job> &jobs)
     int status = -1;
     waitpid(child, &status, 0);
     unlink(document.c_str());
-    unlink(ppd.c_str());
     std::string text(static_cast<size_t>(lseek(fileno(output), 0, SEEK_END)), '\0');
     EXPECT_EQ(pread(fileno(output), text.data(), text.size(), 0), static_cast<ssize_t>(text.size()));
     fclose(output);

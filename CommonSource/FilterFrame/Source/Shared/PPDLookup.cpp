@@ -151,6 +151,17 @@ int32_t IsColorDeivce()
 
 int32_t getDefaultColorMode()
 {
-    const ppd_option_t *option = FindOption(JobPPD(), "OVColorMode");
+    const ppd_option_t *option = FindOption(JobPPD(), kColorModeTicketKey);
     return option && strcmp(option->defchoice, DefaultQBColorModeColor) == 0;
+}
+
+JobColor ColorOfJob(std::string_view mode)
+{
+    if (mode.empty())
+        return IsColorDeivce() == 1 && getDefaultColorMode() == 1 ? JobColor::Color : JobColor::Grayscale;
+    if (mode == DefaultQBColorModeColor)
+        return JobColor::Color;
+    if (mode == DefaultQBColorModeBlack)
+        return JobColor::Grayscale;
+    return PPDHasOption(kColorModeTicketKey) ? JobColor::Unstated : JobColor::Grayscale;
 }

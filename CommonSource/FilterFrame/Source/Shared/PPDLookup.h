@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <vector>
 
 // The attribute that names the printer's language encoding; "UTF-8" puts the job in UTF-8 mode.
@@ -17,6 +18,7 @@ extern const char DeviceColorModeColor[];
 extern const char DeviceColorModeMono[];
 extern const char DefaultQBColorModeColor[];
 extern const char DefaultQBColorModeBlack[];
+inline constexpr char kColorModeTicketKey[] = "OVColorMode";
 
 // The open PPD of the queue that the environment variable PPD names; null when there is none. What it points at lives
 // until PPD names another file or CloseJobPPD.
@@ -70,3 +72,8 @@ int32_t IsColorDeivce();
 
 // 1 when the default of the option OVColorMode is colour, else 0.
 int32_t getDefaultColorMode();
+
+// How a job of this colour mode, a choice of the option OVColorMode, is rendered. Without one the printer and its
+// default decide. Unstated: a mode of the PPD's own, which the document asks for by itself.
+enum class JobColor { Unstated, Color, Grayscale };
+JobColor ColorOfJob(std::string_view mode);
