@@ -175,11 +175,11 @@ class Faults(unittest.TestCase):
                     self.assertEqual(self.end(process), status)
                     self.assert_job(output, document + b"\x04")
 
-    def cancel_at(self, document, position, spooled):
+    def cancel_at(self, document, position, spooled, **settings):
         # Into a file: what the filter waits for is then only its input.
         output = self.folder / "output"
         with output.open("wb") as file:
-            process = self.start(spooled=spooled, stdout=file)
+            process = self.start(spooled=spooled, stdout=file, **settings)
         process.stdin.write(document[:position])
         self.settle(process)
         process.send_signal(signal.SIGTERM)
@@ -212,6 +212,76 @@ class Faults(unittest.TestCase):
                 self.assertEqual([file.read_bytes() for file in left], [] if begin is None else [document[:begin]])
                 for file in left:
                     file.unlink()
+
+    def test_cancelled_between_the_mark_and_its_page_end(self):
+        options = " ".join(f"{TICKET}WMARK{name}Ticket={value}" for name, value in (
+            ("Name", "a"), ("Type", 0), ("OnlyFirst", 0), ("Text", "(DRAFT)"), ("Font", "A"), ("Angle", 0)))
+        mark = (b"pgsave restore /pgsave save store gsave\n1.02 1.02 1.02 setrgbcolor\n/A -1 selectfont\n"
+                b"-0.50 -0.50 moveto\n0 rotate\n(DRAFT) show\ngrestore\n")
+        document = b"%!PS\nbp\nep\nbp\nep\n"
+        sent = document[:8] + mark + b"ep\nbp\n" + mark
+        self.assert_job(self.cancel_at(document, len(document) - 2, False, options=options), sent)
+        self.assert_job(self.cancel_at(document, len(document) - 2, True, options=options), None)
+        left, = self.spool_files()
+        self.assertEqual(left.read_bytes(), sent)
+
+    def test_cancelled_at_page_comments(self):
+        """Every comment that a page ends at is an end of the job too; the pages before it are reported."""
+        attribute = '*OVPageLogMethod: "PageComments"\n'
+        for ppd in self.ppds.values():
+            ppd.write_text(ppd.read_text() + attribute)
+        inner = b"%%BeginDocument: a\n%%Page: 1 1\n%%Trailer\n%%EndDocument\n"
+        page = inner + b"0 0 moveto\n" * 40
+        document = b"%!PS-Adobe-3.0\n" + b"".join(b"%%%%Page: %d %d\n" % (n, n) + page for n in range(1, 80))
+        document += b"%%Trailer\nend\n"
+        second, last, trailer = (document.rindex(line) for line in (b"%%Page: 2 ", b"%%Page: 79", b"%%Trailer"))
+        # Where the signal comes, where the job ends (None: at the document's end) and how many pages were reported.
+        for position, end, logged in ((second - 5, second, 1), (last + 2, last, 78), (trailer + 9, trailer, 79),
+                                      (len(document) - 1, None, 79)):
+            report = b"".join(b"PAGE: %d 1\n" % n for n in range(1, logged + 1))
+            for spooled in (False, True):
+                with self.subTest(position=position, spooled=spooled):
+                    output = self.cancel_at(document, position, spooled)
+                    self.messages.seek(0)
+                    self.assertEqual(self.messages.read(), report)
+                    if end is not None:
+                        self.assert_job(output, None if spooled else document[:end])
+                    elif spooled:
+                        self.assert_job(output, document[:document.index(b"%%Page: 1 1")])
+                    else:
+                        self.assert_job(output, document + b"\x04")
+                    for file in self.spool_files():
+                        self.assertEqual(file.read_bytes(), document[:end])
+                        file.unlink()
+
+    def test_spooled_job_copy_has_the_document_once(self):
+        options = f"{TICKET}WMARKNameTicket=a {TICKET}WMARKTypeTicket=0"
+        output = self.run_job(b"%!PS\n%%EndPageSetup\n%%BeginFeature: *Smoothing True\nshowpage\ntail",
+                              options=options, spooled=True, program=COPYING_FILTER)
+        copy, = (file for file in self.spool_files() if file.suffix == ".job")
+        feature = b"@PJL SET RET=ON\n"
+        header, _, rest = output.partition(ENTER)
+        document = rest.removesuffix(TRAILER)
+        self.assertEqual(document, b"%!PS\n%%EndPageSetup\nwqwbp\n%%BeginFeature: *Smoothing True\nshowpage\nl\x04")
+        self.assertTrue(header.endswith(feature))
+        before, line, after = document.partition(b"%%BeginFeature")
+        self.assertEqual(copy.read_bytes(),
+                         header.removesuffix(feature) + before + feature + line + after + ENTER + TRAILER)
+
+    def test_older_job_copy_of_the_same_second_is_replaced(self):
+        now = time.time()
+        names = [time.strftime("wq%Y%m%d%H%M%S.job", time.localtime(now + n)) for n in range(BOUND)]
+        for name in names:
+            (self.temporary / name).write_bytes(b"x" * 10000)
+        output = self.run_job(b"showpage\n", program=COPYING_FILTER)
+        copies = [file.read_bytes() for file in self.spool_files()]
+        self.assertEqual([copy for copy in copies if copy != b"x" * 10000], [output])
+        self.assertEqual(len(copies), len(names))
+
+    def test_screen_value_across_the_hundredth_digit(self):
+        output = self.run_job(b"TCPR GCPR ICPR" + b" abcd 12" * 49 + b" abcd 3 abcd 45 abcd 6\n", spooled=True)
+        lines = [line for line in output.partition(ENTER)[0].split(b"\n") if b"abcd" in line]
+        self.assertEqual(lines, [b'@PJL SET JOBATTR="@abcd=%d"' % value for value in [12] * 49 + [3, 4]])
 
     def test_cancelled_while_the_printer_waits(self):
         document = pages(600)
