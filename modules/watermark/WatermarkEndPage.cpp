@@ -27,7 +27,7 @@ constexpr char kInstall[] =
     "currentpagedevice/EndPage 2 copy known{get}{pop pop{exch pop 2 ne}}ifelse\n"
     "{3 index 3 index 3 -1 roll exec\n"
     "dup 3 index 2 ne and{1 index/wqwFiller get{1 index/wqwFiller false put}{\n"
-    "1 index/wqwDue get{countdictstack save mark{systemdict begin false setglobal initgraphics\n";
+    "1 index/wqwDue get{countdictstack currentglobal save mark{systemdict begin false setglobal initgraphics\n";
 
 // The font's copy and all else goes with the restore.
 constexpr char kFontOfTwo[] = "dup/FontType get 0 eq{exch pop}{3 -1 roll pop}ifelse\n";
@@ -35,7 +35,7 @@ constexpr char kLatinFont[] = "dup/Encoding get StandardEncoding eq{dup length d
                               "{1 index/FID eq{pop pop}{2 index 3 1 roll put}ifelse}forall\n"
                               "dup/Encoding ISOLatin1Encoding put/wqwFont exch definefont}if\n";
 
-constexpr char kDrawn[] = "}stopped cleartomark exch countdictstack exch sub{end}repeat restore\n"
+constexpr char kDrawn[] = "}stopped cleartomark 3 -1 roll countdictstack exch sub{end}repeat restore setglobal\n"
                           "1 index/wqwDue ";
 constexpr char kEnd[] = " put}if}ifelse}if\n"
                         "4 1 roll pop pop pop}bind/exec load 4 array astore cvx\n"

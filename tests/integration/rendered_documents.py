@@ -1,0 +1,197 @@
+"""Ghostscript as the printer: watermarks on documents of many producers, which the print system's own filters have laid
+out. Every page is marked, and nothing else changes by a pixel.
+
+usage: rendered_documents.py FILTER PPD [FOLDER]: with a folder, the rendered pages are left there.
+"""
+
+import functools
+import os
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+FILTER, PPD, *KEEP = sys.argv[1:]
+DPI = 20
+MARK = {"Name": "a", "Type": 0, "OnlyFirst": 0, "Text": "(DRAFT)", "Font": "Helvetica-Bold", "FontSize": 90,
+        "ColorR": 0.8, "ColorG": 0.2, "ColorB": 0.2, "Density": 100, "Angle": 45}
+COLOUR = "0.8 0.2 0.2"  # no byte of it is 255, which is what blank pixels consist of
+A4, LETTER, WIDE = (595, 842), (612, 792), (842, 595)
+
+# Three pages for groff, of which every other producer makes its document.
+SOURCE = b".ps 24\n.vs 30\nOne\n.bp\nTwo\n.bp\nThree\n"
+
+
+def run(*command, data=b"", environment=None):
+    return subprocess.run(list(map(str, command)), input=data, capture_output=True, check=True, timeout=300,
+                          env=environment).stdout
+
+
+def filtered(document, tickets):
+    options = " ".join(f"com.orvane.dlg.printsettings.WMARK{key}Ticket={value}" for key, value in tickets.items())
+    job = run(FILTER, 1, "taro", "Report", 1, options, data=document,
+              environment={"PATH": os.defpath, "TMPDIR": tempfile.gettempdir(), "PPD": PPD})
+    return job.split(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n", 1)[1].rsplit(b"\x04", 1)[0]
+
+
+def rendered(postscript):
+    """The pages: width, height and the bytes of their pixels."""
+    with tempfile.TemporaryDirectory() as folder:
+        run("gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=ppmraw", f"-r{DPI}", f"-sOutputFile={folder}/%03d",
+            "-", data=postscript)
+        pages = [path.read_bytes() for path in sorted(Path(folder).iterdir())]
+    heads = [re.match(rb"P6\s(?:#.*\n)?(\d+) (\d+)\s255\s", page) for page in pages]
+    return [(int(head[1]), int(head[2]), page[head.end():]) for head, page in zip(heads, pages)]
+
+
+def centred(size, show="(DRAFT)", font="/Helvetica-Bold findfont", place="36 mul exch 36 mul exch translate", angle=45):
+    """A page with nothing but the mark, in PostScript of the test's own."""
+    width, height = size
+    return (f"%!\n<</PageSize[{width} {height}]>>setpagedevice {COLOUR} setrgbcolor {width / 72} {height / 72} {place} "
+            f"{font} 90 scalefont setfont {angle} rotate {show} dup stringwidth pop -2 div -31.5 moveto show showpage")
+
+
+@functools.cache
+def mark_of(postscript):
+    return rendered(postscript.encode())[0]
+
+
+def over(page, mark):
+    """The page with the mark over it: the mark's bytes where they are not blank."""
+    width, height, pixels = page
+    assert (width, height) == mark[:2]
+    blank = int.from_bytes(mark[2].translate(bytes(255) + b"\xff"))
+    both = int.from_bytes(pixels) & blank | int.from_bytes(mark[2]) & ~blank
+    return width, height, both.to_bytes(len(pixels))
+
+
+class RenderedDocuments(unittest.TestCase):
+    def check(self, document, sizes, tickets=MARK, mark=centred):
+        """The pages have these sizes and are marked but where the size is None; they are the document's otherwise."""
+        plain, marked = rendered(filtered(document, {})), rendered(filtered(document, tickets))
+        if KEEP:
+            for number, (width, height, pixels) in enumerate(marked):
+                path = Path(KEEP[0], f"{self.id().split('.')[-1]}-{getattr(self, 'label', '')}-{number}.ppm")
+                path.write_bytes(b"P6 %d %d 255\n" % (width, height) + pixels)
+        self.assertEqual(len(marked), len(sizes))
+        for number, (before, after, size) in enumerate(zip(plain, marked, sizes, strict=True), 1):
+            expected = over(before, mark_of(mark(size))) if size else before
+            self.assertTrue(after == expected, f"page {number}")
+
+    def laid_out(self, document, kind, *options):
+        with tempfile.NamedTemporaryFile() as file:
+            file.write(document)
+            file.flush()
+            os.chmod(file.name, 0o644)
+            arguments = [word for option in options for word in ("-o", option)]
+            return run("cupsfilter", "-p", PPD, "-m", "application/vnd.cups-postscript", "-e", "-i",
+                       f"application/{kind}", *arguments, file.name)
+
+    @functools.cached_property
+    def producers(self):
+        """What each of them makes of the source: kind, renderer option, document."""
+        groff = run("groff", "-Tps", "-P-pa4", data=SOURCE)
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder, "document.pdf")
+            run("gs", "-q", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", "-sPAPERSIZE=a4", "-o", path, "-", data=groff)
+            pdf = path.read_bytes()
+            own = {"groff": groff, "pdftops": run("pdftops", path, "-"), "pdftocairo": run("pdftocairo", "-ps", path, "-"),
+                   "ps2write": run("gs", "-q", "-dBATCH", "-dNOPAUSE", "-sDEVICE=ps2write", "-o", "-", path)}
+        return ([(name, "postscript", "pdftops-renderer=gs", document) for name, document in own.items()] +
+                [(f"PDF by {renderer}", "pdf", f"pdftops-renderer={renderer}", pdf)
+                 for renderer in ("gs", "pdftops", "pdftocairo", "hybrid")])
+
+    def test_every_producer(self):
+        for name, kind, renderer, document in self.producers:
+            for up, pages in ((1, 3), (2, 2), (4, 1)):
+                with self.subTest(name, up=up):
+                    self.label = f"{name}-{up}"
+                    self.check(self.laid_out(document, kind, renderer, f"number-up={up}"), [A4] * pages)
+
+    def test_copies_and_both_sides(self):
+        """Collated copies of three pages on both sides, in reversed order: the fourth side is blank."""
+        reverse = ("copies=2", "Collate=True", "sides=two-sided-long-edge", "outputorder=reverse")
+        groff = self.producers[0][3]
+        laid_out = self.laid_out(groff, "postscript", *reverse)
+        self.check(laid_out, [None, A4, A4, A4] * 2)
+        self.check(laid_out, [None, A4] + [None] * 6, MARK | {"OnlyFirst": 1})
+        self.check(self.laid_out(groff, "postscript", "copies=2"), [A4] * 6)
+
+    def test_documents_of_any_kind(self):
+        """What documents do to the page device, the graphics state, the stacks and the names around the procedure."""
+        lines = "/l{0 0 0 setrgbcolor 10 20 900{0 exch moveto 900 0 rlineto stroke}for}def\n"
+        paper = "<</PageSize[595 842]>>setpagedevice\n"
+        page = "l showpage\n"
+        sizes = [page, "<</PageSize[842 595]>>setpagedevice l showpage\n", "<</PageSize[612 792]>>setpagedevice " + page]
+        every_other = ("<</EndPage{exch 2 mod 0 eq exch 2 ne and dup{gsave 0 0 1 setrgbcolor 50 50 90 90 rectfill "
+                       "grestore}if}>>setpagedevice\n")
+        names = "save restore put stopped mark array roll bind findfont setfont show moveto rotate"
+        redefined = "".join(f"/{name}{{1 (redefined) ne}}def\n" for name in names.split())
+        for label, setup, pages, expected in (
+                ("sizes", paper, [*sizes, page], [A4, WIDE, LETTER, LETTER]),
+                ("matrix", paper + "90 90 translate .5 .5 scale 30 rotate 9 setlinewidth[30 20]0 setdash\n",
+                 ["0 0 moveto 300 300 lineto stroke showpage\n", page], [A4] * 2),
+                ("colour", paper + "/DeviceCMYK setcolorspace 1 0 0 0 setcolor 2 setlinejoin 1 setlinecap 3 setmiterlimit\n",
+                 ["40 setlinewidth 90 90 moveto 300 300 lineto 150 100 lineto stroke showpage\n"], [A4]),
+                ("own EndPage", paper + every_other, [page] * 5, [A4] * 3),
+                ("copypage", paper, ["l copypage 300 300 90 90 rectfill showpage\n"], [A4] * 2),
+                ("save", paper, ["save l showpage restore\n", "/s save def l showpage s restore\n"], [A4] * 2),
+                ("global", paper + "true setglobal\n", [page] * 2 + ["currentglobal{l}if showpage\n"], [A4] * 3),
+                ("state", paper, ["l 0 0 9 9 rectclip 2 2 scale 45 rotate true setoverprint showpage\n", page], [A4] * 2),
+                ("stacks", paper + "1 2 (abc) 20 dict begin\n",
+                 [page, "5 dict begin l showpage end\n", "count 3 eq{l}if countdictstack 4 eq{9 9 90 90 rectfill}if showpage\n"],
+                 [A4] * 3),
+                ("names", paper + redefined, ["9 9 90 90 rectfill showpage\n"], [A4]),
+                ("no name left", paper + "/before userdict length FontDirectory length add def\n",
+                 ["showpage\n", "userdict length FontDirectory length add before sub 0 ne{l}if showpage\n"], [A4] * 2)):
+            with self.subTest(label):
+                self.label = label
+                body = "".join(f"%%Page: {n} {n}\n{text}" for n, text in enumerate(pages, 1))
+                self.check(f"%!PS-Adobe-3.0\n%%EndComments\n{lines}%%BeginSetup\n{setup}%%EndSetup\n{body}%%Trailer\n"
+                           .encode(), expected)
+                self.check(f"%!PS-Adobe-3.0\n{lines}{setup}%%EndSetup\n{body}".encode(),
+                           [expected[0]] + [None] * (len(expected) - 1), MARK | {"OnlyFirst": 1})
+        self.label = "no comments"
+        self.check(f"%!\r\n% \r\n{lines}{paper}{page}{sizes[1]}".encode(), [A4, WIDE])
+
+    def test_fonts_and_failures(self):
+        """Accents, Shift-JIS for composite fonts, a font that fails: the page is there, and all that follows it."""
+        def document(font):
+            return (f"%!PS-Adobe-3.0\n{font}/l{{9 9 90 90 rectfill}}def\n<</PageSize[595 842]>>setpagedevice\n%%EndSetup\n"
+                    "%%Page: 1 1\n3 l showpage\n%%Page: 2 2\n3 eq countdictstack 3 eq and{l}if showpage\n").encode()
+        latin = ("/Times-Roman findfont dup length dict copy dup/FID undef dup/Encoding ISOLatin1Encoding put/L exch "
+                 "definefont")
+        composite = ("/F<</FontType 0/FMapType 2/FontMatrix[1 0 0 1 0 0]/Encoding[0 1]/FDepVector[/Times-Roman "
+                     "findfont/Symbol findfont]>>definefont pop\n")
+        failing = ("/F<</FontType 3/FontMatrix[.001 0 0 .001 0 0]/FontBBox[0 0 9 9]/Encoding StandardEncoding/BuildChar{"
+                   "gsave 9 dict begin 9 dict begin 1 2 3 undefinedname}>>definefont pop\n")
+        self.label = "accents"
+        for text, shown in (("(caf\\\\351)", "(caf\\351)"), ("(\u00c4rger)", "(\\304rger)"), ("/40/195/137/41", "(\\311)")):
+            with self.subTest(text):
+                self.check(document(""), [A4] * 2, MARK | {"Text": text, "Font": "Times-Roman"},
+                           lambda size: centred(size, shown, latin))
+        # Shift-JIS A1 would be one byte of kana in a font of one byte; 00 41 01 42 are codes of two fonts.
+        with self.subTest("composite"):
+            self.label = "composite"
+            self.check(document(composite), [A4] * 2, MARK | {"Text": "(\\\\000A\\\\001a\u00e9)", "Font": "F"},
+                       lambda size: composite + centred(size, "(\\000A\\001a)", "/F findfont"))
+        with self.subTest("failure"):
+            self.label = "failure"
+            self.check(document(failing), [None] * 2, MARK | {"Font": "F"})
+
+    def test_geometry_of_the_job(self):
+        """Paper, box and offsets of the tickets place the mark as they do at page markers."""
+        geometry = {"Orientation": 1, "PaperWidth": 400, "PaperHeight": 600, "Width": 280, "Height": 63, "hOffset": 20,
+                    "vOffset": -30, "Angle": 0}
+        document = b"%!PS-Adobe-3.0\n<</PageSize[595 842]>>setpagedevice\n%%EndSetup\n%%Page: 1 1\nshowpage\n"
+        for width, left in ((280, "-140"), (-1, "dup stringwidth pop -2 div")):
+            with self.subTest(width=width):
+                self.check(document, [A4], MARK | geometry | {"Width": width}, lambda size: (
+                    f"%!\n<</PageSize[595 842]>>setpagedevice {COLOUR} setrgbcolor /Helvetica-Bold 90 selectfont "
+                    f"220 270 translate (DRAFT) {left} -31.5 moveto show showpage"))
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1], verbosity=2)
