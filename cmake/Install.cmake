@@ -27,5 +27,5 @@ install(TARGETS pstoorvane DESTINATION ${OV_FILTER_DIR} PERMISSIONS ${everyone_r
 install(DIRECTORY ${PROJECT_BINARY_DIR}/ppd/ DESTINATION ${OV_MODEL_DIR}
   FILES_MATCHING REGEX "/ppd/[a-z]+\\.ppd$" PATTERN compiled EXCLUDE PATTERN CMakeFiles EXCLUDE)
 install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
-install(FILES CHANGELOG.md docs/tickets.md docs/debugging.md docs/passwords.md docs/product-configuration.md
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/pstoorvane)
+install(FILES CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/pstoorvane)
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/pstoorvane FILES_MATCHING PATTERN "*.md")

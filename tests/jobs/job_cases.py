@@ -24,7 +24,8 @@ PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*La
             b'*LanguageEncoding: ISOLatin1\n')
 PREFIX = b"com.orvane.dlg.printsettings."
 CODES = {b"e": b"\x1b", b"r": b"\r", b"n": b"\n", b"t": b"\t", b"\\": b"\\"}
-DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1"}
+DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1",
+            b"environment": b"LANG=C TMPDIR={folder}"}
 TOKEN = re.compile(rb"""(?:\\\{\d+ .*?\}|\{blob:[^}]*\}|'[^']*'|"[^"]*"|\S)+""")
 CHOICE = re.compile(rb"\[([^][]*\|[^][]*)\]")
 
@@ -227,8 +228,10 @@ class Jobs(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name)
 
-    def run_filter(self, *arguments, program=FILTER, document=b"", ppd=None):
-        environment = {"PATH": "/usr/bin:/bin", "LANG": "C", "TMPDIR": self.folder, **({"PPD": ppd} if ppd else {}),
+    def run_filter(self, *arguments, program=FILTER, document=b"", ppd=None, variables=DEFAULTS[b"environment"]):
+        variables = variables.replace(b"{folder}", bytes(self.folder)).split()
+        environment = {"PATH": "/usr/bin:/bin", **({"PPD": ppd} if ppd else {}),
+                       **dict(variable.split(b"=", 1) for variable in variables),
                        **{name: value for name, value in os.environ.items() if name.endswith("SAN_OPTIONS")}}
         job = subprocess.run([program, b"1", *arguments], input=document, env=environment, capture_output=True)
         self.assertEqual(job.returncode, 0, job.stderr)
@@ -247,7 +250,7 @@ class Jobs(unittest.TestCase):
                 arguments[-1].write_bytes(bytes(case[b"file"]))
         document = bytes(case[b"document"])
         job = self.run_filter(*arguments, document=case.get(b"sent", document),
-                              ppd=None if case[b"ppd"] == b"none" else path)
+                              ppd=None if case[b"ppd"] == b"none" else path, variables=case[b"environment"])
         if EXPLAIN:
             shown = subprocess.run([EXPLAIN, "show", "--check"], input=job.stdout, capture_output=True)
             self.assertEqual((shown.returncode, shown.stdout, shown.stderr), (0, b"", b""))
