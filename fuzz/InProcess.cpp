@@ -17,9 +17,9 @@ static const char kTrailer[] = "\x1B%-12345X@PJL EOJ\n";
 
 // Stands in front of the library's, which leaks a few bytes for some PPDs that repeat a keyword. What it allocates is
 // not looked at; a suppression by the function's name would need a symbolizer, which machines need not have.
-extern "C" void *ppdOpenFile(const char *path)
+extern "C" ppd_file_t *ppdOpenFile(const char *path)
 {
-    static const auto open = reinterpret_cast<void *(*)(const char *)>(dlsym(RTLD_NEXT, "ppdOpenFile"));
+    static const auto open = reinterpret_cast<ppd_file_t *(*)(const char *)>(dlsym(RTLD_NEXT, "ppdOpenFile"));
     const __lsan::ScopedDisabler disabler;
     return open(path);
 }

@@ -65,6 +65,7 @@ class PrivateCups:
         self._make_server_bin()
         self._write_configuration()
         self.environment = dict(os.environ, CUPS_SERVER=self.path("cups.sock"), HOME=self.root, LC_ALL="C",
+                                CUPS_SERVERROOT=self.path("etc"),  # for what lpoptions keeps when run by root
                                 PATH=os.environ["PATH"] + ":/usr/sbin:/sbin")  # where lpadmin is
         with open(self.path("cupsd.out"), "wb") as out:
             self.server = subprocess.Popen(

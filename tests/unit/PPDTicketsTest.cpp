@@ -5,42 +5,45 @@
 #include "Rows.h"
 #include "TestPPD.h"
 
+#include <cstring>
 #include <sstream>
 
 static const char prefix[] = "com.orvane.dlg.printsettings.";
 
 // One option is like any, one has a custom choice, one is a switch, and one hides its default.
 static const char options[] = R"(
-*OpenUI *OVPick/Pick: PickOne
-*DefaultOVPick: None
-*OVPick None/None: ""
-*OVPick On/On: ""
-*OVPick Custom/Custom: ""
-*CloseUI: *OVPick
-*OpenUI *OVPin/PIN: PickOne
-*OrderDependency: 10 JCLSetup *OVPin
-*DefaultOVPin: None
-*OVPin None/None: ""
-*JCLCloseUI: *OVPin
-*CustomOVPin True: ""
-*ParamCustomOVPin PIN/PIN: 1 passcode 4 8
-*OpenUI *OVSwitch/Switch: Boolean
-*DefaultOVSwitch: False
-*OVSwitch True/On: ""
-*OVSwitch False/Off: ""
-*CloseUI: *OVSwitch
-*OpenUI *OVHidden/Hidden: PickOne
-*DefaultOVHidden: Unknown
-*OVHidden None/None: ""
-*CloseUI: *OVHidden
-*CustomOVHidden True: ""
-*ParamCustomOVHidden Text/Text: 1 string 1 8
+*OpenUI *Pick/Pick: PickOne
+*DefaultPick: None
+*Pick None/None: ""
+*Pick On/On: ""
+*Pick Custom/Custom: ""
+*CloseUI: *Pick
+*OpenUI *Pin/PIN: PickOne
+*OrderDependency: 10 JCLSetup *Pin
+*DefaultPin: None
+*Pin None/None: ""
+*JCLCloseUI: *Pin
+*CustomPin True: ""
+*ParamCustomPin PIN/PIN: 1 passcode 4 8
+*OpenUI *Switch/Switch: Boolean
+*DefaultSwitch: False
+*Switch True/On: ""
+*Switch False/Off: ""
+*CloseUI: *Switch
+*OpenUI *Hidden/Hidden: PickOne
+*DefaultHidden: Unknown
+*Hidden None/None: ""
+*CloseUI: *Hidden
+*CustomHidden True: ""
+*ParamCustomHidden Text/Text: 1 string 1 8
 )";
 
-// "OPTION.CHOICE: text ; ..." as a PPD; a "Keyword = value" stands for another attribute.
+// "OPTION.CHOICE: text ; ..." as a PPD; "defaults" and "*Keyword: value" stand for other attributes.
 static std::string PPDText(const std::string &cell)
 {
     std::string text = options;
+    if (cell.starts_with("defaults"))
+        return PPDText("*OVSendDefaults: True" + cell.substr(sizeof "defaults" - 1));
     std::istringstream rows(cell);
     for (std::string row; std::getline(rows, row, ';');) {
         const size_t begin = row.find_first_not_of(' '), end = row.find(": ");
@@ -52,15 +55,23 @@ static std::string PPDText(const std::string &cell)
     return text;
 }
 
-static std::string Listed(const JobOptions &job)
+// What was added to the job's options, or changed among them.
+static std::string Added(const char *const *argv)
 {
+    cups_option_t *named = nullptr;
+    const int32_t namedCount = cupsParseOptions(argv[5], 0, &named);
+    const JobOptions job = OptionsOfJob(argv);
     std::string list;
     for (int32_t i = 0; i < job.count; i++) {
         std::string name = job.list[i].name;
+        const char *before = cupsGetOption(name.c_str(), namedCount, named);
+        if (before && strcmp(before, job.list[i].value) == 0)
+            continue;
         if (name.starts_with(prefix))
             name.erase(0, sizeof prefix - 2);
-        list += (i > 0 ? ", " : "") + name + "=" + job.list[i].value;
+        list += (list.empty() ? "" : ", ") + name + "=" + job.list[i].value;
     }
+    cupsFreeOptions(namedCount, named);
     return list;
 }
 
@@ -69,7 +80,7 @@ TEST(PPDTickets, CompleteTheOptions)
     CheckRows("ppd-tickets", [](const Cells &given) -> Cells {
         const TestPPD ppd(PPDText(given[0]));
         const char *const argv[] = {"", "1", "taro", "A \"Report\"", "1", given[1].c_str(), nullptr};
-        return {Listed(OptionsOfJob(argv))};
+        return {Added(argv)};
     });
 }
 
@@ -101,11 +112,11 @@ TEST(PPDTickets, FollowTheJob)
 {
     const TestPPD first("*OVTicket a: \"b='{user} {title}'\"\n");
     const char *argv[] = {"", "1", "taro", "Report", "1", "a=1", nullptr};
-    EXPECT_EQ(Listed(OptionsOfJob(argv)), "a=1, b=taro Report");
+    EXPECT_EQ(Added(argv), "b=taro Report");
     argv[2] = "jiro";
-    EXPECT_EQ(Listed(OptionsOfJob(argv)), "a=1, b=jiro Report");
+    EXPECT_EQ(Added(argv), "b=jiro Report");
     argv[3] = "Letter";
-    EXPECT_EQ(Listed(OptionsOfJob(argv)), "a=1, b=jiro Letter");
+    EXPECT_EQ(Added(argv), "b=jiro Letter");
     const TestPPD second("*OVTicket a: \"c=1\"\n");
-    EXPECT_EQ(Listed(OptionsOfJob(argv)), "a=1, c=1");
+    EXPECT_EQ(Added(argv), "c=1");
 }
