@@ -1,7 +1,8 @@
-// The document in both modes. Without tickets nothing is injected, so it arrives as it was sent.
-// Input: the kind of PPD and the mode (one byte), then the document.
+// The document's way in both modes, without the header. Without tickets nothing is injected, so it arrives as sent.
+// Input: the kind of PPD, the mode and the source (one byte), then the document.
 
 #include "InProcess.h"
+#include "PSLineReader.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -26,17 +27,25 @@ static std::string Expected(std::string_view document, bool spooled)
     return expected;
 }
 
-// Input is small, the reader's blocks are not: a run of a byte stands for a long one.
+// Input is small, the reader's blocks are not: a run of a byte stands for a long one, and the first runs of an input
+// fill more than a block.
 static std::string Unpacked(std::string_view input)
 {
     std::string document;
-    for (size_t i = 0; i < input.size(); i++) {
-        if (input[i] == '\xFE' && input.size() - i > 3) {
-            const auto high = static_cast<unsigned char>(input[i + 2]), low = static_cast<unsigned char>(input[i + 3]);
-            document.append(high * 256U + low, input[i + 1]);
-            i += 3;
+    size_t room = kPSBlockSize + kPSLineRoom;
+    while (!input.empty()) {
+        const size_t plain = std::min(input.find('\xFE'), input.size());
+        document.append(input, 0, plain);
+        input.remove_prefix(plain);
+        if (input.size() > 3) {
+            const auto high = static_cast<unsigned char>(input[2]), low = static_cast<unsigned char>(input[3]);
+            const size_t count = std::min<size_t>(high * 256U + low, room);
+            document.append(count, input[1]);
+            room -= count;
+            input.remove_prefix(4);
         } else {
-            document += input[i];
+            document += input;
+            break;
         }
     }
     return document;
@@ -47,12 +56,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (size == 0)
         return 0;
     const bool spooled = data[0] & 16;
-    InProcessJob job;
-    job.ppd = PPDOfKind(data[0], spooled);
-    job.fromFile = data[0] & 32;
-    job.document = Unpacked({reinterpret_cast<const char *>(data) + 1, size - 1});
-    // Feature code reaches the header in spooled mode, but never an end of it.
-    const std::string output = RunInProcess(job);
-    Require(DocumentOf(output) == Expected(job.document, spooled));
+    const std::string document = Unpacked({reinterpret_cast<const char *>(data) + 1, size - 1});
+    const std::string ppd = PPDOfKind(data[0] & 7, spooled);
+    Require(RunDocument(document, ppd, spooled, data[0] & 32) == Expected(document, spooled));
     return 0;
 }

@@ -2,11 +2,14 @@
 
 #include "FilterFrame.h"
 #include "PPDLookup.h"
+#include "PSSpool.h"
+#include "PSStream.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
+#include <map>
 #include <sanitizer/lsan_interface.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -15,13 +18,26 @@ static const char kUEL[] = "\x1B%-12345X@PJL ";
 static const char kEnter[] = "@PJL ENTER LANGUAGE=POSTSCRIPT\n";
 static const char kTrailer[] = "\x1B%-12345X@PJL EOJ\n";
 
-// Stands in front of the library's, which leaks a few bytes for some PPDs that repeat a keyword. What it allocates is
+// Parsed PPDs that are asked again and again, by their path.
+static std::map<std::string, ppd_file_t *> keptPPDs;
+
+// Stand in front of the library's, which leaks a few bytes for some PPDs that repeat a keyword. What it allocates is
 // not looked at; a suppression by the function's name would need a symbolizer, which machines need not have.
 extern "C" ppd_file_t *ppdOpenFile(const char *path)
 {
     static const auto open = reinterpret_cast<ppd_file_t *(*)(const char *)>(dlsym(RTLD_NEXT, "ppdOpenFile"));
     const __lsan::ScopedDisabler disabler;
-    return open(path);
+    const auto kept = keptPPDs.find(path);
+    if (kept == keptPPDs.end())
+        return open(path);
+    return kept->second ? kept->second : kept->second = open(path);
+}
+
+extern "C" void ppdClose(ppd_file_t *ppd)
+{
+    static const auto close = reinterpret_cast<void (*)(ppd_file_t *)>(dlsym(RTLD_NEXT, "ppdClose"));
+    if (std::ranges::none_of(keptPPDs, [ppd](const auto &kept) { return kept.second == ppd; }))
+        close(ppd);
 }
 
 void Require(bool holds)
@@ -104,19 +120,25 @@ static std::string ReadOutput()
     return output;
 }
 
-std::string RunInProcess(const InProcessJob &job)
+// The document's file; standard input reads it unless the job gives its path.
+static int DocumentFile(std::string_view content, bool fromFile)
 {
     static int document = -1;
     static const bool taken = (TakeStandardOutput(), true);
     Require(taken);
+    FileOf("document", content, document);
+    if (!fromFile)
+        Require(dup2(document, STDIN_FILENO) == STDIN_FILENO);
+    return document;
+}
+
+std::string RunInProcess(const InProcessJob &job)
+{
     UsePPD(job.ppd);
-    FileOf("document", job.document, document);
-    const std::string path = PathOf(document);
+    const std::string path = PathOf(DocumentFile(job.document, job.fromFile));
     const char *const argv[] = {
         "pstoorvane",        "1",          job.user.c_str(), job.title.c_str(), job.copies.c_str(),
         job.options.c_str(), path.c_str(), nullptr};
-    if (!job.fromFile)
-        Require(dup2(document, STDIN_FILENO) == STDIN_FILENO);
     Require(FilterMain(job.fromFile ? 7 : 6, argv) == 0);
 
     // The crypto's messages may come first.
@@ -129,11 +151,20 @@ std::string RunInProcess(const InProcessJob &job)
     return output;
 }
 
-std::string_view DocumentOf(std::string_view output)
+std::string RunDocument(std::string_view document, const std::string &ppd, bool spooled, bool fromFile)
 {
-    const size_t enter = output.find(kEnter);
-    Require(enter != output.npos);
-    output.remove_prefix(enter + sizeof kEnter - 1);
-    output.remove_suffix(sizeof kTrailer - 1);
+    static std::map<std::string, int> files;
+    auto [file, isNew] = files.try_emplace(ppd, -1);
+    if (isNew)
+        keptPPDs[PathOf(FileOf("ppd", ppd, file->second))];
+    setenv("PPD", PathOf(file->second).c_str(), 1);
+    const std::string path = PathOf(DocumentFile(document, fromFile));
+    const char *const argv[] = {"pstoorvane", "1", "taro", "Report", "1", "", path.c_str(), nullptr};
+    (spooled ? OutputPSStreamtoFileandInsertPJLforFeaturePDE : OutputPSStream)(fromFile ? 7 : 6, argv);
+    fflush(stdout);
+    std::string output = ReadOutput();
+    // Feature code becomes lines before the switch to PostScript, but never the switch.
+    if (spooled)
+        output.erase(0, output.find(kEnter) + sizeof kEnter - 1);
     return output;
 }

@@ -20,8 +20,9 @@ void UsePPD(const std::string &text);
 // Runs the job and returns what it wrote. A job that was not cancelled has a complete header and trailer.
 std::string RunInProcess(const InProcessJob &job);
 
-// The PostScript of such an output, its 0x04 included.
-std::string_view DocumentOf(std::string_view output);
+// Takes a document the way of a job, without header and trailer; returns what arrives of it, the 0x04 included. Each
+// PPD is parsed once; `spooled` says whether it asks for that mode.
+std::string RunDocument(std::string_view document, const std::string &ppd, bool spooled, bool fromFile);
 
 // Stops the fuzzer: this input is a finding.
 void Require(bool holds);

@@ -1,5 +1,6 @@
-// The line builder where no table of ours takes it; whole jobs show it with the tables, conditions and rows.
-#include "CommandBuilder.h"
+// The line builder and the conditions where no table of ours takes them; whole
+// jobs show them with the tables.
+#include "CommandTable.h"
 
 #include "Rows.h"
 
@@ -22,4 +23,22 @@ TEST(CommandBuilder, BuildsLines)
         EXPECT_EQ(TextOf(cut), TextOf(line).substr(0, 3));
         return {TextOf(line)};
     });
+}
+
+TEST(CommandTable, Conditions)
+{
+    CheckRows("conditions", [](const Cells &given) -> Cells {
+        static const char *const word = "bc";
+        static const int32_t three = 3;
+        const char *text = given[0].c_str();
+        const auto length = static_cast<int32_t>(given[0].size());
+        Cells answers;
+        for (const ComparationItem &item :
+             {Is(text, word), Contains(text, word), Lacks(text, word), NotEmpty(text), Empty(text),
+              ShorterThan(text, three), Equal(length, three), NotEqual(length, three)})
+            answers.push_back(std::to_string(item.func(item.arg1, item.arg2)));
+        return answers;
+    });
+    EXPECT_EQ(StrNoNULLCampareFunc(nullptr, OptionNULLStr), 0U);
+    EXPECT_EQ(StrIsNULLCampareFunc(nullptr, OptionNULLStr), 1U);
 }
