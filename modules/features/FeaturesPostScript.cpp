@@ -65,7 +65,7 @@ static const FeaturesFragment fragments[] = {
 
 static bool IsDue(const FeaturesFragment &fragment, int32_t event)
 {
-    const int32_t pagesPerSheet = LayoutCount();
+    const int64_t pagesPerSheet = LayoutCount();
     const bool fits = fragment.nUp ? pagesPerSheet >= 2 : pagesPerSheet == 0 || pagesPerSheet == 1;
     return fragment.event == event && fits;
 }

@@ -27,6 +27,9 @@ TEST(TicketReader, DecodesByteValues)
         numstrtochar(text.data(), given.size() > 1 ? Number(given[1]) : static_cast<int32_t>(text.size()));
         return {TextOf(text)};
     });
+    char text[] = "/65/66";
+    numstrtochar(text, 3);
+    EXPECT_EQ(text[3], '/'); // nothing is written from there on
 }
 
 TEST(TicketReader, NumbersAndFlags)

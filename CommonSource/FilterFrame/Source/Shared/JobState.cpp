@@ -61,9 +61,7 @@ void ClearJobState()
     CancelJobForPipe = 0;
 }
 
-int32_t LayoutCount()
+int64_t LayoutCount()
 {
-    const uint32_t rows = static_cast<uint32_t>(atoi(StdLayoutRowInfo));
-    const uint32_t columns = static_cast<uint32_t>(atoi(StdLayoutColumnInfo));
-    return static_cast<int32_t>(rows * columns);
+    return int64_t{atoi(StdLayoutRowInfo)} * atoi(StdLayoutColumnInfo);
 }

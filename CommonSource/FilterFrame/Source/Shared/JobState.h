@@ -47,6 +47,5 @@ extern volatile sig_atomic_t CancelJobForPipe;
 // Empties every buffer above and takes the cancellation back.
 void ClearJobState();
 
-// Pages on one sheet by the layout buffers, rows times columns; a text that is no number counts as 0. The product is
-// taken in 32 bits.
-int32_t LayoutCount();
+// Pages on one sheet by the layout buffers, rows times columns; a text that is not a number counts as 0.
+int64_t LayoutCount();

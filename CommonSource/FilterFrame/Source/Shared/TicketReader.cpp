@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <utility>
 
 // Size of the buffer in which a text is decoded, its NUL included; a longer value is cut.
 constexpr size_t kTicketTextSize = 1024;
@@ -72,16 +73,14 @@ int32_t GetTicketFromArray(const char *const *argv, TicketTable table)
 
 void numstrtochar(char *text, int32_t size)
 {
-    if (size <= 0)
-        return;
-    const size_t capacity = static_cast<size_t>(size);
-    const size_t length = strnlen(text, capacity);
-    if (length < 2 || length == capacity || text[0] != '/')
+    const size_t length = strlen(text);
+    if (length < 2 || text[0] != '/')
         return;
     size_t write = 0;
     for (size_t read = 1; read < length;) {
         const size_t end = read + strcspn(text + read, "/");
-        text[end] = '\0';
+        if (std::cmp_less(end, size))
+            text[end] = '\0';
         const int value = atoi(text + read);
         text[write++] = value >= 256 ? '\0' : static_cast<char>(value);
         text[write] = '\0';
@@ -200,8 +199,10 @@ static int32_t NumberUp(const char *key, int32_t optionCount, cups_option_t *opt
     const char *value = cupsGetOption(key, optionCount, options);
     char digits[3];
     if (!value) {
-        const int32_t count = LayoutCount();
-        value = itoa(count, digits, sizeof digits);
+        const int64_t count = LayoutCount();
+        // Of a longer number the last two digits fit; the hundred keeps the zero before the last one.
+        const int64_t shown = count < 100 ? std::max<int64_t>(count, 0) : 100 + count % 100;
+        value = itoa(static_cast<int32_t>(shown), digits, sizeof digits);
         if (count == 1 || !*value)
             prefix = "";
     }

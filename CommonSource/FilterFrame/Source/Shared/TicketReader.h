@@ -51,7 +51,7 @@ int32_t GetTicketFromArray(const char *const *argv, const ticketData *table, int
 int32_t GetTicketFromArray(const char *const *argv, TicketTable table);
 
 // Decodes, in place, a text that is a list of decimal byte values, each preceded by "/"; any other text is left as it
-// is. `size` is the buffer's.
+// is. `size` is the buffer's: of a number that ends there or later only the value counts, no NUL is put at its end.
 void numstrtochar(char *text, int32_t size);
 
 // The list that numstrtochar decodes to `text`, each value written with at least `digits` digits.
