@@ -8,10 +8,21 @@
 #include <string>
 
 using AESOperation = decltype(PlatformAESCBCEncrypt);
+using Input = std::span<const unsigned char>;
+using Output = std::span<unsigned char>;
 
-static uint32_t RunAES(AESOperation *operation, int32_t mode, std::span<const unsigned char> key,
-                       std::span<const unsigned char> iv, std::span<const unsigned char> data,
-                       std::span<unsigned char> out, uint32_t *outLen)
+static Input Bytes(const void *data, uint32_t length)
+{
+    return {static_cast<const unsigned char *>(data), length};
+}
+
+static Output Bytes(void *data, uint32_t length)
+{
+    return {static_cast<unsigned char *>(data), length};
+}
+
+static uint32_t RunAES(AESOperation *operation, int32_t mode, Input key, Input iv, Input data, Output out,
+                       uint32_t *outLen)
 {
     if (mode != kSecBlobEncAESModeCBC) {
         printf("AES Error. Unsupported AES Mode.");
@@ -32,31 +43,31 @@ uint32_t SecBlobEncInternal_ReportStep(int32_t location, const char *step, uint3
     return kSecBlobEncStepFailed;
 }
 
-uint32_t SecBlobEncInternal_GenerateRandom(uint32_t length, unsigned char *out)
+uint32_t SecBlobEncInternal_GenerateRandom(uint32_t length, void *out)
 {
-    if (const int32_t error = PlatformRandomBytes({out, length})) {
+    if (const int32_t error = PlatformRandomBytes(Bytes(out, length))) {
         printf("Generate Random Error[%d]", error);
         return kSecBlobEncStepFailed;
     }
     return kSecBlobEncSuccess;
 }
 
-uint32_t SecBlobEncInternal_GenerateHMAC(const unsigned char *key, uint32_t keyLen, const unsigned char *message,
-                                         uint32_t messageLen, unsigned char *out)
+uint32_t SecBlobEncInternal_GenerateHMAC(const void *key, uint32_t keyLen, const void *message, uint32_t messageLen,
+                                         void *out)
 {
-    const std::span<unsigned char, kPlatformHMACBytes> digest(out, kPlatformHMACBytes);
-    return PlatformHMACSHA256({key, keyLen}, {message, messageLen}, digest) ? kSecBlobEncStepFailed
-                                                                            : kSecBlobEncSuccess;
+    const auto digest = Bytes(out, kPlatformHMACBytes).first<kPlatformHMACBytes>();
+    return PlatformHMACSHA256(Bytes(key, keyLen), Bytes(message, messageLen), digest) ? kSecBlobEncStepFailed
+                                                                                      : kSecBlobEncSuccess;
 }
 
-uint32_t SecBlobEncInternal_RSAEncrypt(const char *publicKeyBase64, uint32_t publicKeyLen, const unsigned char *data,
-                                       uint32_t dataLen, uint32_t capacity, unsigned char *out, uint32_t *outLen)
+uint32_t SecBlobEncInternal_RSAEncrypt(const char *publicKeyBase64, uint32_t publicKeyLen, const void *data,
+                                       uint32_t dataLen, uint32_t capacity, void *out, uint32_t *outLen)
 {
     const std::string keyText(publicKeyBase64, strnlen(publicKeyBase64, publicKeyLen));
     PlatformError error;
     size_t length = 0;
-    if (PlatformRSAOAEPEncrypt(SecBlobEnc_Decode_Key(keyText.c_str()), {data, dataLen}, {out, capacity}, length,
-                               error)) {
+    if (PlatformRSAOAEPEncrypt(SecBlobEnc_Decode_Key(keyText.c_str()), Bytes(data, dataLen), Bytes(out, capacity),
+                               length, error)) {
         printf("RSA Error[%d] %s", error.code, error.text);
         return kSecBlobEncStepFailed;
     }
@@ -64,21 +75,23 @@ uint32_t SecBlobEncInternal_RSAEncrypt(const char *publicKeyBase64, uint32_t pub
     return kSecBlobEncSuccess;
 }
 
-uint32_t SecBlobEncInternal_AESEncrypt(int32_t mode, const unsigned char *key, uint32_t keyLen, const unsigned char *iv,
-                                       uint32_t ivLen, const unsigned char *data, uint32_t dataLen, uint32_t capacity,
-                                       unsigned char *out, uint32_t *outLen)
+uint32_t SecBlobEncInternal_AESEncrypt(int32_t mode, const void *key, uint32_t keyLen, const void *iv, uint32_t ivLen,
+                                       const void *data, uint32_t dataLen, uint32_t capacity, void *out,
+                                       uint32_t *outLen)
 {
-    return RunAES(PlatformAESCBCEncrypt, mode, {key, keyLen}, {iv, ivLen}, {data, dataLen}, {out, capacity}, outLen);
+    return RunAES(PlatformAESCBCEncrypt, mode, Bytes(key, keyLen), Bytes(iv, ivLen), Bytes(data, dataLen),
+                  Bytes(out, capacity), outLen);
 }
 
-uint32_t SecBlobEncInternal_AESDecrypt(int32_t mode, const unsigned char *key, uint32_t keyLen, const unsigned char *iv,
-                                       uint32_t ivLen, const unsigned char *data, uint32_t dataLen, uint32_t capacity,
-                                       unsigned char *out, uint32_t *outLen)
+uint32_t SecBlobEncInternal_AESDecrypt(int32_t mode, const void *key, uint32_t keyLen, const void *iv, uint32_t ivLen,
+                                       const void *data, uint32_t dataLen, uint32_t capacity, void *out,
+                                       uint32_t *outLen)
 {
-    return RunAES(PlatformAESCBCDecrypt, mode, {key, keyLen}, {iv, ivLen}, {data, dataLen}, {out, capacity}, outLen);
+    return RunAES(PlatformAESCBCDecrypt, mode, Bytes(key, keyLen), Bytes(iv, ivLen), Bytes(data, dataLen),
+                  Bytes(out, capacity), outLen);
 }
 
-void outputData(const unsigned char *buffer, size_t length, const char *path)
+void outputData(const void *buffer, size_t length, const char *path)
 {
     FILE *file = fopen(path, "wb");
     if (!file) {

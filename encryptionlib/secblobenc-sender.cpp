@@ -15,21 +15,15 @@ constexpr uint32_t kMaxWrappedBytes = 512;
 constexpr uint32_t kIVBytesCBC = 16;
 constexpr uint32_t kIVBytesOther = 12;
 
-// What must not stay in memory.
-struct Secrets {
+// What a blob is made of. None of it stays in memory.
+struct BlobParts {
     unsigned char secret[kSecretBytes];
     unsigned char aesKey[kPlatformHMACBytes];
-};
-
-// What a blob carries behind its fixed fields.
-struct Sealed {
     unsigned char salt[kSecretBytes];
     unsigned char wrapped[kMaxWrappedBytes];
     uint32_t wrappedLen;
     unsigned char iv[kIVBytesCBC];
     uint32_t ivLen;
-    std::vector<unsigned char> payload;
-    uint32_t payloadLen;
 };
 
 static const unsigned char *KeyIdentifier(int32_t keyType)
@@ -44,28 +38,29 @@ static const unsigned char *KeyIdentifier(int32_t keyType)
     }
 }
 
-static uint32_t Seal(int32_t aesMode, const unsigned char *data, uint32_t dataLen, const char *publicKeyBase64,
-                     uint32_t publicKeyLen, Secrets &secrets, Sealed &sealed)
+// Fills the parts and replaces the payload, which has room for it, by the encrypted data.
+static uint32_t Seal(int32_t aesMode, const void *data, uint32_t dataLen, const char *publicKeyBase64,
+                     uint32_t publicKeyLen, BlobParts &parts, std::vector<unsigned char> &payload)
 {
-    const auto capacity = static_cast<uint32_t>(sealed.payload.size());
-    sealed.ivLen = aesMode == 0 ? kIVBytesOther : kIVBytesCBC;
-    if (const uint32_t status = SecBlobEncInternal_GenerateRandom(kSecretBytes, secrets.secret))
+    parts.ivLen = aesMode == 0 ? kIVBytesOther : kIVBytesCBC;
+    if (const uint32_t status = SecBlobEncInternal_GenerateRandom(kSecretBytes, parts.secret))
         return SecBlobEncInternal_ReportStep(114, "generate random", status);
-    if (const uint32_t status = SecBlobEncInternal_GenerateRandom(kSecretBytes, sealed.salt))
+    if (const uint32_t status = SecBlobEncInternal_GenerateRandom(kSecretBytes, parts.salt))
         return SecBlobEncInternal_ReportStep(122, "generate random", status);
     if (const uint32_t status =
-            SecBlobEncInternal_GenerateHMAC(secrets.secret, kSecretBytes, sealed.salt, kSecretBytes, secrets.aesKey))
+            SecBlobEncInternal_GenerateHMAC(parts.secret, kSecretBytes, parts.salt, kSecretBytes, parts.aesKey))
         return SecBlobEncInternal_ReportStep(131, "Key Derivation HMAC", status);
-    if (const uint32_t status = SecBlobEncInternal_GenerateRandom(sealed.ivLen, sealed.iv))
+    if (const uint32_t status = SecBlobEncInternal_GenerateRandom(parts.ivLen, parts.iv))
         return SecBlobEncInternal_ReportStep(139, "generate random", status);
-    if (const uint32_t status =
-            SecBlobEncInternal_RSAEncrypt(publicKeyBase64, publicKeyLen, secrets.secret, kSecretBytes, kMaxWrappedBytes,
-                                          sealed.wrapped, &sealed.wrappedLen))
+    if (const uint32_t status = SecBlobEncInternal_RSAEncrypt(publicKeyBase64, publicKeyLen, parts.secret, kSecretBytes,
+                                                              kMaxWrappedBytes, parts.wrapped, &parts.wrappedLen))
         return SecBlobEncInternal_ReportStep(150, "RSA Encrypt", status);
+    auto payloadLen = static_cast<uint32_t>(payload.size());
     if (const uint32_t status =
-            SecBlobEncInternal_AESEncrypt(aesMode, secrets.aesKey, sizeof secrets.aesKey, sealed.iv, sealed.ivLen, data,
-                                          dataLen, capacity, sealed.payload.data(), &sealed.payloadLen))
+            SecBlobEncInternal_AESEncrypt(aesMode, parts.aesKey, sizeof parts.aesKey, parts.iv, parts.ivLen, data,
+                                          dataLen, payloadLen, payload.data(), &payloadLen))
         return SecBlobEncInternal_ReportStep(161, "AES Encrypt", status);
+    payload.resize(payloadLen);
     return kSecBlobEncSuccess;
 }
 
@@ -88,8 +83,30 @@ static unsigned char *PutBytes(unsigned char *out, const unsigned char *bytes, u
     return out + count;
 }
 
-uint32_t SecBlobEnc_KT_Encrypt(int32_t aesMode, int32_t keyType, const unsigned char *data, uint32_t dataLen,
-                               const char *publicKeyBase64, uint32_t publicKeyLen, unsigned char *out, uint32_t *outLen)
+// Writes the blob and returns its length. CBC is the only mode that comes this far, and it has no authentication tag.
+static uint32_t PutBlob(int32_t aesMode, int32_t keyType, const unsigned char *identifier, const BlobParts &parts,
+                        const std::vector<unsigned char> &payload, unsigned char *out)
+{
+    const auto payloadLen = static_cast<uint32_t>(payload.size());
+    const uint32_t fixedLen = 16 + kKeyIdentifierBytes + kSecretBytes;
+    const uint32_t totalLen = fixedLen + parts.wrappedLen + parts.ivLen + payloadLen;
+    out = PutByte(out, 0x08); // format
+    out = PutByte(out, 0x01); // version
+    out = PutLittleEndian(out, payloadLen);
+    out = PutLittleEndian(out, totalLen);
+    out = PutByte(out, aesMode);
+    out = PutByte(out, keyType);
+    out = PutLittleEndian(out, 0); // reserved
+    out = PutBytes(out, identifier, kKeyIdentifierBytes);
+    out = PutBytes(out, parts.salt, kSecretBytes);
+    out = PutBytes(out, parts.wrapped, parts.wrappedLen);
+    out = PutBytes(out, parts.iv, parts.ivLen);
+    PutBytes(out, payload.data(), payloadLen);
+    return totalLen;
+}
+
+uint32_t SecBlobEnc_KT_Encrypt(int32_t aesMode, int32_t keyType, const void *data, uint32_t dataLen,
+                               const char *publicKeyBase64, uint32_t publicKeyLen, void *out, uint32_t *outLen)
 {
     if (dataLen >= kFirstTooLong) {
         printf("ERROR[%d]: too long bufLen [%d].\n", 88, static_cast<int32_t>(dataLen));
@@ -101,29 +118,11 @@ uint32_t SecBlobEnc_KT_Encrypt(int32_t aesMode, int32_t keyType, const unsigned 
         return kSecBlobEncBadArgument;
     }
 
-    Secrets secrets;
-    Sealed sealed{};
-    sealed.payload.resize(dataLen + kPlatformAESBlockBytes);
-    const uint32_t status = Seal(aesMode, data, dataLen, publicKeyBase64, publicKeyLen, secrets, sealed);
-    PlatformWipe(&secrets, sizeof secrets);
-    if (status != kSecBlobEncSuccess)
-        return status;
-
-    // CBC is the only mode that comes this far, and it has no authentication tag.
-    const uint32_t fixedLen = 16 + kKeyIdentifierBytes + kSecretBytes;
-    const uint32_t totalLen = fixedLen + sealed.wrappedLen + sealed.ivLen + sealed.payloadLen;
-    out = PutByte(out, 0x08); // format
-    out = PutByte(out, 0x01); // version
-    out = PutLittleEndian(out, sealed.payloadLen);
-    out = PutLittleEndian(out, totalLen);
-    out = PutByte(out, aesMode);
-    out = PutByte(out, keyType);
-    out = PutLittleEndian(out, 0); // reserved
-    out = PutBytes(out, identifier, kKeyIdentifierBytes);
-    out = PutBytes(out, sealed.salt, kSecretBytes);
-    out = PutBytes(out, sealed.wrapped, sealed.wrappedLen);
-    out = PutBytes(out, sealed.iv, sealed.ivLen);
-    PutBytes(out, sealed.payload.data(), sealed.payloadLen);
-    *outLen = totalLen;
-    return kSecBlobEncSuccess;
+    BlobParts parts{};
+    std::vector<unsigned char> payload(dataLen + kPlatformAESBlockBytes);
+    const uint32_t status = Seal(aesMode, data, dataLen, publicKeyBase64, publicKeyLen, parts, payload);
+    if (status == kSecBlobEncSuccess)
+        *outLen = PutBlob(aesMode, keyType, identifier, parts, payload, static_cast<unsigned char *>(out));
+    PlatformWipe(&parts, sizeof parts);
+    return status;
 }

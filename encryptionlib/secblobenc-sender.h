@@ -8,6 +8,5 @@
 // key, 1 for the 3072-bit one; it chooses the identifier that the blob names, the key itself is `publicKeyBase64`. The
 // blob has 96 bytes, the RSA modulus's bytes and the padded data; `out` must have room for it, and `outLen` receives
 // its length.
-uint32_t SecBlobEnc_KT_Encrypt(int32_t aesMode, int32_t keyType, const unsigned char *data, uint32_t dataLen,
-                               const char *publicKeyBase64, uint32_t publicKeyLen, unsigned char *out,
-                               uint32_t *outLen);
+uint32_t SecBlobEnc_KT_Encrypt(int32_t aesMode, int32_t keyType, const void *data, uint32_t dataLen,
+                               const char *publicKeyBase64, uint32_t publicKeyLen, void *out, uint32_t *outLen);

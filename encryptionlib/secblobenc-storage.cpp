@@ -14,10 +14,9 @@ struct StorageDirection {
 static const StorageDirection storageEncrypt = {SecBlobEncInternal_AESEncrypt, "AES Encrypt", 39, 52};
 static const StorageDirection storageDecrypt = {SecBlobEncInternal_AESDecrypt, "AES Decrypt", 84, 97};
 
-static uint32_t RunStorage(const StorageDirection &direction, const unsigned char *data, uint32_t dataLen,
-                           const unsigned char *hmacKey, uint32_t hmacKeyLen, const unsigned char *hmacMessage,
-                           uint32_t hmacMessageLen, const unsigned char *iv, uint32_t ivLen, unsigned char *out,
-                           uint32_t *outLen)
+static uint32_t RunStorage(const StorageDirection &direction, const void *data, uint32_t dataLen, const void *hmacKey,
+                           uint32_t hmacKeyLen, const void *hmacMessage, uint32_t hmacMessageLen, const void *iv,
+                           uint32_t ivLen, void *out, uint32_t *outLen)
 {
     unsigned char key[kPlatformHMACBytes];
     uint32_t status = SecBlobEncInternal_GenerateHMAC(hmacKey, hmacKeyLen, hmacMessage, hmacMessageLen, key);
@@ -32,17 +31,17 @@ static uint32_t RunStorage(const StorageDirection &direction, const unsigned cha
     return status;
 }
 
-uint32_t SecBlobEnc_DataStorage_Encrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
-                                        uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
-                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen)
+uint32_t SecBlobEnc_DataStorage_Encrypt(const void *data, uint32_t dataLen, const void *hmacKey, uint32_t hmacKeyLen,
+                                        const void *hmacMessage, uint32_t hmacMessageLen, const void *iv,
+                                        uint32_t ivLen, void *out, uint32_t *outLen)
 {
     return RunStorage(storageEncrypt, data, dataLen, hmacKey, hmacKeyLen, hmacMessage, hmacMessageLen, iv, ivLen, out,
                       outLen);
 }
 
-uint32_t SecBlobEnc_DataStorage_Decrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
-                                        uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
-                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen)
+uint32_t SecBlobEnc_DataStorage_Decrypt(const void *data, uint32_t dataLen, const void *hmacKey, uint32_t hmacKeyLen,
+                                        const void *hmacMessage, uint32_t hmacMessageLen, const void *iv,
+                                        uint32_t ivLen, void *out, uint32_t *outLen)
 {
     return RunStorage(storageDecrypt, data, dataLen, hmacKey, hmacKeyLen, hmacMessage, hmacMessageLen, iv, ivLen, out,
                       outLen);

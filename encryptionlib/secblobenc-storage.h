@@ -5,9 +5,9 @@
 #include <cstdint>
 
 // AES-256-CBC with PKCS#7 padding. `outLen` holds the output's capacity on entry and the length produced on return.
-uint32_t SecBlobEnc_DataStorage_Encrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
-                                        uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
-                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen);
-uint32_t SecBlobEnc_DataStorage_Decrypt(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey,
-                                        uint32_t hmacKeyLen, const unsigned char *hmacMessage, uint32_t hmacMessageLen,
-                                        const unsigned char *iv, uint32_t ivLen, unsigned char *out, uint32_t *outLen);
+uint32_t SecBlobEnc_DataStorage_Encrypt(const void *data, uint32_t dataLen, const void *hmacKey, uint32_t hmacKeyLen,
+                                        const void *hmacMessage, uint32_t hmacMessageLen, const void *iv,
+                                        uint32_t ivLen, void *out, uint32_t *outLen);
+uint32_t SecBlobEnc_DataStorage_Decrypt(const void *data, uint32_t dataLen, const void *hmacKey, uint32_t hmacKeyLen,
+                                        const void *hmacMessage, uint32_t hmacMessageLen, const void *iv,
+                                        uint32_t ivLen, void *out, uint32_t *outLen);

@@ -11,16 +11,16 @@ constexpr uint32_t kSecBlobEncBadArgument = 2;
 constexpr uint32_t kSecBlobEncStepFailed = 99;
 
 // Encrypt and decrypt under the storage key, as SecBlobEnc_DataStorage_Encrypt and SecBlobEnc_DataStorage_Decrypt do.
-uint32_t Encode_Storage(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey, uint32_t hmacKeyLen,
-                        const unsigned char *hmacMessage, uint32_t hmacMessageLen, const unsigned char *iv,
-                        uint32_t ivLen, unsigned char *out, uint32_t *outLen);
-uint32_t Decode_Storage(const unsigned char *data, uint32_t dataLen, const unsigned char *hmacKey, uint32_t hmacKeyLen,
-                        const unsigned char *hmacMessage, uint32_t hmacMessageLen, const unsigned char *iv,
-                        uint32_t ivLen, unsigned char *out, uint32_t *outLen);
+uint32_t Encode_Storage(const void *data, uint32_t dataLen, const void *hmacKey, uint32_t hmacKeyLen,
+                        const void *hmacMessage, uint32_t hmacMessageLen, const void *iv, uint32_t ivLen, void *out,
+                        uint32_t *outLen);
+uint32_t Decode_Storage(const void *data, uint32_t dataLen, const void *hmacKey, uint32_t hmacKeyLen,
+                        const void *hmacMessage, uint32_t hmacMessageLen, const void *iv, uint32_t ivLen, void *out,
+                        uint32_t *outLen);
 
 // Encrypts for the printer under the product's 2048-bit key: a blob of 352 bytes and the padded data, different each
 // time. `out` must have room for it.
-uint32_t Encode_Random(const unsigned char *data, uint32_t dataLen, unsigned char *out, uint32_t *outLen);
+uint32_t Encode_Random(const void *data, uint32_t dataLen, void *out, uint32_t *outLen);
 
 // Fills `out` with `length` bytes of the system's cryptographic random source.
-uint32_t Generate_Random(uint32_t length, unsigned char *out);
+uint32_t Generate_Random(uint32_t length, void *out);

@@ -39,17 +39,16 @@ static void Decode(const std::string &text, int32_t capacity)
 
 static void GoRound(const std::string &text, int32_t capacity)
 {
-    const auto *bytes = reinterpret_cast<const unsigned char *>(text.data());
     const auto size = static_cast<int32_t>(text.size());
     int32_t length = 0;
     std::string base64((text.size() + 2) / 3 * 4, '\0');
-    Require(ZSPBinToB64(bytes, size, base64.data(), &length, static_cast<int32_t>(base64.size())) == kZSPSuccess);
+    Require(ZSPBinToB64(text.data(), size, base64.data(), &length, static_cast<int32_t>(base64.size())) == kZSPSuccess);
     std::vector<unsigned char> back(text.size());
     Require(ZSPB64ToBin(base64.c_str(), length, back.data(), &length, size) == kZSPSuccess && length == size);
-    Require(memcmp(back.data(), bytes, back.size()) == 0);
+    Require(memcmp(back.data(), text.data(), back.size()) == 0);
 
     std::vector<unsigned char> scrambled(static_cast<size_t>(capacity));
-    const int32_t status = ZSPEncrypt(bytes, size, scrambled.data(), &length, capacity);
+    const int32_t status = ZSPEncrypt(text.data(), size, scrambled.data(), &length, capacity);
     Require(status != kZSPSuccess || length == size);
 }
 
@@ -58,9 +57,8 @@ static std::string Stored(const std::string &password)
 {
     std::vector<unsigned char> cipher(password.size() + 16);
     auto length = static_cast<uint32_t>(cipher.size());
-    Require(Encode_Storage(reinterpret_cast<const unsigned char *>(password.data()),
-                           static_cast<uint32_t>(password.size()), seed1, sizeof seed1, seed2, sizeof seed2, seed3,
-                           sizeof seed3, cipher.data(), &length) == kSecBlobEncSuccess);
+    Require(Encode_Storage(password.data(), static_cast<uint32_t>(password.size()), seed1, sizeof seed1, seed2,
+                           sizeof seed2, seed3, sizeof seed3, cipher.data(), &length) == kSecBlobEncSuccess);
     std::string value((length + 2) / 3 * 4, '\0');
     int32_t textLength = 0;
     ZSPBinToB64(cipher.data(), static_cast<int32_t>(length), value.data(), &textLength,

@@ -9,6 +9,7 @@
 
 int main()
 {
+    setvbuf(stdin, nullptr, _IONBF, 0); // no second place that holds the password
     char password[kStoredPasswordMaxLength + 2]; // with a line end, and one byte of what is too long
     size_t length = fread(password, 1, sizeof password, stdin);
     if (length > 0 && password[length - 1] == '\n')
@@ -20,6 +21,9 @@ int main()
                 length == 0 ? "no password" : "no ticket value can carry this password; choose a shorter one");
         return 1;
     }
-    puts(value.c_str());
+    if (puts(value.c_str()) < 0 || fflush(stdout) != 0) {
+        fprintf(stderr, "storepassword: cannot write the ticket value\n");
+        return 1;
+    }
     return 0;
 }

@@ -37,26 +37,27 @@ static unsigned char TakeCharacter(std::string_view &text)
     return '=';
 }
 
-int32_t ZSPEncrypt(const unsigned char *input, int32_t length, unsigned char *output, int32_t *outLength,
-                   int32_t capacity)
+int32_t ZSPEncrypt(const void *input, int32_t length, void *output, int32_t *outLength, int32_t capacity)
 {
     if (!input || !output || !outLength)
         return kZSPNullPointer;
     if (length <= 0 || capacity <= 0)
         return kZSPBadLength;
+    const auto *const plain = static_cast<const unsigned char *>(input);
+    auto *const scrambled = static_cast<unsigned char *>(output);
     *outLength = 0;
     while (*outLength < length) {
         const int32_t count = std::min(length - *outLength, kBlockBytes);
         if (count > capacity - *outLength)
             return kZSPOutputTooSmall;
         for (int32_t i = 0; i < count; i++)
-            output[*outLength + i] = static_cast<unsigned char>(input[*outLength + i] ^ zspkey[i]);
+            scrambled[*outLength + i] = static_cast<unsigned char>(plain[*outLength + i] ^ zspkey[i]);
         *outLength += count;
     }
     return kZSPSuccess;
 }
 
-int32_t ZSPBinToB64(const unsigned char *input, int32_t length, char *output, int32_t *outLength, int32_t capacity)
+int32_t ZSPBinToB64(const void *input, int32_t length, void *output, int32_t *outLength, int32_t capacity)
 {
     if (!input || !outLength || (capacity != 0 && !output))
         return kZSPNullPointer;
@@ -66,26 +67,29 @@ int32_t ZSPBinToB64(const unsigned char *input, int32_t length, char *output, in
     *outLength = static_cast<int32_t>(needed);
     if (capacity < needed)
         return kZSPOutputTooSmall;
+    const auto *const bytes = static_cast<const unsigned char *>(input);
+    auto *text = static_cast<char *>(output);
     for (int32_t i = 0; i < length; i += 3) {
         const int32_t count = std::min(length - i, 3);
-        const uint32_t group = static_cast<uint32_t>(input[i]) << 16 |
-                               (count > 1 ? static_cast<uint32_t>(input[i + 1]) << 8 : 0) |
-                               (count > 2 ? static_cast<uint32_t>(input[i + 2]) : 0);
-        *output++ = B64CHR[group >> 18];
-        *output++ = B64CHR[group >> 12 & 63];
-        *output++ = count > 1 ? B64CHR[group >> 6 & 63] : '=';
-        *output++ = count > 2 ? B64CHR[group & 63] : '=';
+        const uint32_t group = static_cast<uint32_t>(bytes[i]) << 16 |
+                               (count > 1 ? static_cast<uint32_t>(bytes[i + 1]) << 8 : 0) |
+                               (count > 2 ? static_cast<uint32_t>(bytes[i + 2]) : 0);
+        *text++ = B64CHR[group >> 18];
+        *text++ = B64CHR[group >> 12 & 63];
+        *text++ = count > 1 ? B64CHR[group >> 6 & 63] : '=';
+        *text++ = count > 2 ? B64CHR[group & 63] : '=';
     }
     return kZSPSuccess;
 }
 
-int32_t ZSPB64ToBin(const char *input, int32_t length, unsigned char *output, int32_t *outLength, int32_t capacity)
+int32_t ZSPB64ToBin(const void *input, int32_t length, void *output, int32_t *outLength, int32_t capacity)
 {
     if (!input || !outLength || (capacity != 0 && !output))
         return kZSPNullPointer;
     if (length <= 0 || capacity < 0 || length % 4 != 0)
         return kZSPBadLength;
-    std::string_view text(input, strnlen(input, static_cast<size_t>(length)));
+    const auto *const characters = static_cast<const char *>(input);
+    std::string_view text(characters, strnlen(characters, static_cast<size_t>(length)));
     const size_t padding = text.size() - (text.find_last_not_of('=') + 1);
     *outLength = std::max(length / 4 * 3 - static_cast<int32_t>(padding), 0);
     if (capacity == 0 || capacity < *outLength)
@@ -103,7 +107,7 @@ int32_t ZSPB64ToBin(const char *input, int32_t length, unsigned char *output, in
         for (int32_t i = 0; i < count - 1; i++) {
             if (written == capacity)
                 return kZSPOutputTooSmall;
-            output[written++] = static_cast<unsigned char>(bytes[i]);
+            static_cast<unsigned char *>(output)[written++] = static_cast<unsigned char>(bytes[i]);
         }
     }
     *outLength = written;

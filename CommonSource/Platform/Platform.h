@@ -70,6 +70,10 @@ void PlatformWipe(void *memory, size_t size);
 
 // System
 
+// Keeps the process's memory to itself: no core file and, where the system can forbid it (Linux), no look by other
+// processes of the same user.
+void PlatformKeepMemoryPrivate();
+
 // The kernel's release text ("19.6.0"), NUL-terminated. Returns false when it can't be read or doesn't fit.
 bool PlatformKernelRelease(std::span<char> out);
 

@@ -20,6 +20,14 @@ using CipherContext = std::unique_ptr<EVP_CIPHER_CTX, Closer<EVP_CIPHER_CTX_free
 using Base64Context = std::unique_ptr<EVP_ENCODE_CTX, Closer<EVP_ENCODE_CTX_free>>;
 using KeyContext = std::unique_ptr<EVP_PKEY_CTX, Closer<EVP_PKEY_CTX_free>>;
 
+// Before each use of the library. It neither reads openssl.cnf nor heeds OPENSSL_CONF, with which a host could take its
+// algorithms away; its errors are forgotten.
+static void Begin()
+{
+    OPENSSL_init_crypto(OPENSSL_INIT_NO_LOAD_CONFIG, nullptr);
+    ERR_clear_error();
+}
+
 // Tells what the library failed with first, the cause of what followed, and forgets it. Returns its reason code.
 static int32_t TakeLibraryError(PlatformError &error)
 {
@@ -48,7 +56,7 @@ static bool AESArgumentsHold(std::span<const unsigned char> key, std::span<const
 
 int32_t PlatformRandomBytes(std::span<unsigned char> out)
 {
-    ERR_clear_error();
+    Begin();
     const bool done = RAND_bytes_ex(nullptr, out.data(), out.size(), 0) == 1;
     ERR_clear_error();
     return done ? 0 : kPlatformRandomFailed;
@@ -57,7 +65,7 @@ int32_t PlatformRandomBytes(std::span<unsigned char> out)
 int32_t PlatformHMACSHA256(std::span<const unsigned char> key, std::span<const unsigned char> message,
                            std::span<unsigned char, kPlatformHMACBytes> out)
 {
-    ERR_clear_error();
+    Begin();
     size_t length = 0;
     if (!EVP_Q_mac(nullptr, "HMAC", nullptr, "SHA256", nullptr, key.data(), key.size(), message.data(), message.size(),
                    out.data(), out.size(), &length))
@@ -72,7 +80,7 @@ int32_t PlatformAESCBCEncrypt(std::span<const unsigned char> key, std::span<cons
         return kPlatformBadArgument;
     if (out.size() < (data.size() / kPlatformAESBlockBytes + 1) * kPlatformAESBlockBytes)
         return kPlatformOutputTooSmall;
-    ERR_clear_error();
+    Begin();
     const CipherContext context(EVP_CIPHER_CTX_new());
     int length = 0;
     int rest = 0;
@@ -91,7 +99,7 @@ int32_t PlatformAESCBCDecrypt(std::span<const unsigned char> key, std::span<cons
         return kPlatformBadArgument;
     if (data.size() % kPlatformAESBlockBytes != 0)
         return kPlatformBadLength;
-    ERR_clear_error();
+    Begin();
     const CipherContext context(EVP_CIPHER_CTX_new());
     if (!context || EVP_DecryptInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, key.data(), iv.data()) != 1)
         return TakeLibraryError();
@@ -118,7 +126,7 @@ int32_t PlatformAESCBCDecrypt(std::span<const unsigned char> key, std::span<cons
 }
 
 // The parsed key, kept to the end of the process: a job's passwords go to one key, and parsing it costs more than
-// encrypting for it. Null when it can't be parsed.
+// encrypting for it. Null when it can't be parsed or something follows it.
 static EVP_PKEY *ParsePublicKey(std::span<const unsigned char> der)
 {
     static std::vector<unsigned char> parsed;
@@ -127,6 +135,10 @@ static EVP_PKEY *ParsePublicKey(std::span<const unsigned char> der)
         EVP_PKEY_free(key);
         const unsigned char *next = der.data();
         key = d2i_PUBKEY(nullptr, &next, static_cast<long>(der.size()));
+        if (key && next != der.data() + der.size()) {
+            EVP_PKEY_free(key);
+            key = nullptr;
+        }
         parsed.assign(der.begin(), der.end());
     }
     return key;
@@ -136,7 +148,7 @@ int32_t PlatformRSAOAEPEncrypt(std::span<const unsigned char> publicKey, std::sp
                                std::span<unsigned char> out, size_t &outLen, PlatformError &error)
 {
     error = {};
-    ERR_clear_error();
+    Begin();
     EVP_PKEY *const key = ParsePublicKey(publicKey);
     const KeyContext context(key ? EVP_PKEY_CTX_new(key, nullptr) : nullptr);
     size_t needed = 0;
@@ -162,10 +174,10 @@ bool PlatformBase64Decode(std::string_view text, std::vector<unsigned char> &dat
     // To the library a "-" is where the text ends; to us it is no base64.
     if (text.size() > INT_MAX || text.find('-') != std::string_view::npos)
         return false;
+    Begin();
     const Base64Context context(EVP_ENCODE_CTX_new());
     if (!context)
         return false;
-    ERR_clear_error();
     data.resize(text.size() + 3);
     int length = 0;
     int rest = 0;

@@ -2,6 +2,19 @@
 #include "Platform.h"
 
 #include <cstring>
+#include <sys/resource.h>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
+
+void PlatformKeepMemoryPrivate()
+{
+    const struct rlimit none = {0, 0};
+    setrlimit(RLIMIT_CORE, &none);
+#ifdef __linux__
+    prctl(PR_SET_DUMPABLE, 0);
+#endif
+}
 
 #ifdef __APPLE__
 #include <sys/sysctl.h>

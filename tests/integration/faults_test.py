@@ -8,8 +8,10 @@ measurements: they tell an end from a hang and a buffer from the whole job.
 
 import array
 import fcntl
+import itertools
 import os
 import pathlib
+import re
 import resource
 import signal
 import subprocess
@@ -19,6 +21,9 @@ import termios
 import threading
 import time
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "jobs"))
+from blobs import Blob  # noqa: E402
 
 FILTER, COPYING_FILTER = map(os.path.abspath, sys.argv[1:3])
 
@@ -33,6 +38,15 @@ PPD_HEAD = ('*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*Lan
             '*LanguageEncoding: ISOLatin1\n')
 TICKET = "com.orvane.dlg.printsettings."
 PAGE_ENDS = (b"ep\n", b"endp\n", b"showpage\n")
+
+# Two passwords as they are stored, what they are, and the development key that they are stored under.
+STORED = " ".join(TICKET + ticket for ticket in (
+    "PrintTypeTicketKey=2", "PrintTypeUserNameTicketKey=u", "JBAManageTypeListTicketKey=2", "JBAInfoListTicketKey=0",
+    "PrintTypePasswordTicketKey=QDJiXHuTJ8dtVZX8hrpVn3A0Pu9uQsWzwsWFsn7Zdys=", "JBAInfoSetListTicketKey=8",
+    "JBAUserSettingRadioBtnTicket=1", "JBAUserIDListCtrlTicket=1", "JBAUserIDTextEditTicket=",
+    "JBAUserPasswordTextEditTicket=7gBx8RYzN2XUw7h8e0A/ew=="))
+PASSWORDS = [b"pass word 16 byt", b"acct-pw"]
+STORAGE_KEY = bytes.fromhex("9506fae93dbae611bed59999a96219456ff11fccd978dcf76ddaaeab5fab9017")
 
 
 def pages(count, lines=40):
@@ -148,6 +162,28 @@ class Faults(unittest.TestCase):
                     self.assertEqual(self.end(process), 1)
                     self.assertTrue(whole.startswith(received))
                     self.assertEqual(self.spool_files(), [])
+
+    def block_signals(self):
+        signal.pthread_sigmask(signal.SIG_BLOCK, {signal.SIGTERM, signal.SIGPIPE})
+
+    def test_reader_goes_away_before_a_small_job(self):
+        """All of it is written by the last flush."""
+        for spooled, preexec in itertools.product((False, True), (None, self.block_signals)):
+            with self.subTest(spooled=spooled, blocked=preexec is not None):
+                process = self.start(spooled=spooled, preexec_fn=preexec)
+                process.stdout.close()
+                process.stdin.write(b"ep\n")
+                process.stdin.close()
+                self.assertEqual(self.end(process), 1)
+
+    def test_cancelled_where_the_parent_blocks_signals(self):
+        process = self.start(preexec_fn=self.block_signals)
+        self.settle(process)
+        process.send_signal(signal.SIGTERM)
+        process.stdin.write(b"%!PS\nep\nep\n")
+        process.stdin.close()
+        self.assert_job(process.stdout.read(), b"%!PS\n")
+        self.assertEqual(self.end(process), 0)
 
     def test_slow_pipes_and_signals(self):
         """SIGPIPE only leaves its mark in the exit status, SIGTERM waits for a page end: neither costs a byte."""
@@ -419,6 +455,60 @@ class Faults(unittest.TestCase):
                 readers.clear()
                 for path in self.spool_files():
                     path.rmdir() if path.is_dir() and not path.is_symlink() else path.unlink()
+
+    def test_job_copy_is_its_owners_until_it_is_finished(self):
+        for older in (lambda path: None, lambda path: (path.touch(), path.chmod(0o676))):
+            with self.subTest():
+                self.plant(older)
+                process = self.start(program=COPYING_FILTER)
+                self.settle(process)
+                modes = [path.stat().st_mode & 0o777 for path in self.spool_files()]
+                self.assertEqual([mode for mode in modes if mode != 0o676], [0o600])
+                process.stdin.close()
+                self.assert_job(process.stdout.read(), b"\x04")
+                self.assertEqual(self.end(process), 0)
+                self.assertEqual({path.stat().st_mode & 0o777 for path in self.spool_files()}, {0o676})
+
+    def blobs(self, output):
+        return [Blob(text) for text in re.findall(rb'(?:HOLDENCRYPTKEY="|@JOEP=)([^"]*)"', output)]
+
+    def test_configuration_of_the_hosts_cryptography(self):
+        """It can neither take an algorithm away nor the provider that has them."""
+        for number, section in enumerate(("alg_section = a\n[a]\ndefault_properties = fips=yes",
+                                          "providers = p\n[p]\nbase = b\n[b]\nactivate = 1")):
+            path = self.write(f"{number}.cnf", f"openssl_conf = c\n[c]\n{section}\n")
+            with self.subTest(section=section):
+                output = self.run_job(b"ep\n", options=STORED, environment={"OPENSSL_CONF": str(path)})
+                self.assertEqual([blob.password for blob in self.blobs(output)], PASSWORDS)
+
+    def test_each_blob_has_secrets_of_its_own(self):
+        blobs = self.blobs(self.run_job(options=STORED) + self.run_job(options=STORED))
+        self.assertEqual([blob.password for blob in blobs], PASSWORDS * 2)
+        # Nor is a part of one used as another.
+        pieces = [value[at:at + 16] for blob in blobs for value in (blob.secret, blob.salt, blob.key, blob.vector)
+                  for at in range(0, len(value), 16)]
+        self.assertEqual(len(set(pieces)), len(pieces))
+
+    def test_memory_keeps_no_secret(self):
+        process = self.start(options=STORED)
+        self.settle(process)
+        maps = pathlib.Path(f"/proc/{process.pid}/maps")
+        memory = pathlib.Path(f"/proc/{process.pid}/mem")
+        self.assertEqual(maps.stat().st_uid, 0)  # nobody else may look
+        if os.geteuid() != 0:
+            self.skipTest("only root can look at a filter's memory")
+        held = b""
+        with memory.open("rb", 0) as file:
+            for begin, end in re.findall(r"^(\w+)-(\w+) rw", maps.read_text(), re.M):
+                file.seek(int(begin, 16))
+                held += file.read(int(end, 16) - int(begin, 16))
+        process.stdin.close()
+        blobs = self.blobs(process.stdout.read())
+        self.assertEqual(self.end(process), 0)
+        self.assertIn(STORED.encode(), held)
+        self.assertEqual(len(blobs), 2)
+        found = [name for blob in blobs for name, value in vars(blob).items() if value in held]
+        self.assertEqual(found + ["storage key"] * (STORAGE_KEY in held), [])
 
     def test_no_core_file(self):
         process = self.start()

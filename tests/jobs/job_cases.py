@@ -4,9 +4,6 @@ CONTRIBUTING.md has their form.
 usage: job_cases.py FILTER FILTER-THAT-KEEPS-A-COPY SAMPLE-PPDS TEST-DATA [unittest arguments, such as job_names]
 """
 
-import base64
-import hashlib
-import hmac
 import os
 import re
 import socket
@@ -17,9 +14,10 @@ import time
 import unittest
 from pathlib import Path
 
+from blobs import Blob
+
 FILTER, COPYING_FILTER = sys.argv[1:3]
 SAMPLES, DATA = map(Path, sys.argv[3:5])
-PRIVATE_KEY = DATA / "keys" / "development-2048.pem"
 EXPLAIN = os.environ.get("ORVANE_JOB")  # the tool, which must know every line
 PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
             b'*LanguageEncoding: ISOLatin1\n')
@@ -204,23 +202,6 @@ class JobFile:
                 header.put(re.match(rb"[@:]?\w*", token)[0], line_of(token))
 
 
-def openssl(*arguments, data=b""):
-    return subprocess.run(["openssl", *arguments], input=data, check=True, stdout=subprocess.PIPE).stdout
-
-
-def opened(text):
-    """The password in an encrypted blob, opened as the printer does it, with none of the filter's code."""
-    blob = base64.b64decode(text, validate=True)
-    sizes = b"".join(size.to_bytes(4, "little") for size in (len(blob) - 352, len(blob)))
-    identifier = hashlib.sha256(openssl("pkey", "-in", PRIVATE_KEY, "-pubout", "-outform", "DER")).digest()
-    if blob[:48] != b"\x08\x01" + sizes + b"\x01\0\0\0\0\0" + identifier:
-        return f"no header of a blob: {blob[:48]}"
-    secret = openssl("pkeyutl", "-decrypt", "-inkey", PRIVATE_KEY, "-pkeyopt", "rsa_padding_mode:oaep", "-pkeyopt",
-                     "rsa_oaep_md:sha256", "-pkeyopt", "rsa_mgf1_md:sha256", data=blob[80:336])
-    key = hmac.digest(secret, blob[48:80], "sha256")
-    return openssl("enc", "-d", "-aes-256-cbc", "-K", key.hex(), "-iv", blob[336:352].hex(), data=blob[352:])
-
-
 class Jobs(unittest.TestCase):
     maxDiff = None
 
@@ -263,7 +244,7 @@ class Jobs(unittest.TestCase):
         parts = re.split(rb"\{blob:(.*?)\}", expected)
         found = re.fullmatch(b"([A-Za-z0-9+/=]+)".join(map(re.escape, parts[::2])), job.stdout)
         if found:
-            self.assertEqual([opened(blob) for blob in found.groups()], parts[1::2])
+            self.assertEqual([Blob(text).password for text in found.groups()], parts[1::2])
         else:
             self.assertEqual(job.stdout.split(b"\n"), expected.split(b"\n"))
         if b"messages" in case:

@@ -4,34 +4,32 @@
 #include "Rows.h"
 
 #include <algorithm>
-#include <type_traits>
 
 // Takes a text, its length and the capacity; answers the status, the length told (-7: none) and the bytes written.
-template <auto codec, typename In, typename Out> static Cells Answer(const Cells &given)
+template <auto codec> static Cells Answer(const Cells &given)
 {
     const int32_t capacity = Number(given[2]);
     auto out = Buffer(std::max(capacity, 1));
     int32_t told = -7;
-    const int32_t status = codec(reinterpret_cast<const In *>(given[0].c_str()), Number(given[1]),
-                                 reinterpret_cast<Out *>(out.data()), &told, capacity);
+    const int32_t status = codec(given[0].c_str(), Number(given[1]), out.data(), &told, capacity);
     // The scrambler writes what there is room for.
-    const bool written = status == kZSPSuccess || (std::is_same_v<In, Out> && status == kZSPOutputTooSmall);
+    const bool written = status == kZSPSuccess || (codec == ZSPEncrypt && status == kZSPOutputTooSmall);
     return {std::to_string(status), std::to_string(told), {out.data(), static_cast<size_t>(written ? told : 0)}};
 }
 
 TEST(Codec, EncodesBase64)
 {
-    CheckRows("base64-encode", Answer<ZSPBinToB64, unsigned char, char>);
+    CheckRows("base64-encode", Answer<ZSPBinToB64>);
 }
 
 TEST(Codec, DecodesBase64)
 {
-    CheckRows("base64-decode", Answer<ZSPB64ToBin, char, unsigned char>);
+    CheckRows("base64-decode", Answer<ZSPB64ToBin>);
 }
 
 TEST(Codec, Scrambles)
 {
-    CheckRows("scrambler", Answer<ZSPEncrypt, unsigned char, unsigned char>);
+    CheckRows("scrambler", Answer<ZSPEncrypt>);
 }
 
 TEST(Codec, RefusesNullPointers)

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 // The bytes behind the text must be zero and the result its length.
-static std::string Converted(int32_t (*convert)(const char *, char *, int32_t), const Cells &given)
+static std::string Converted(int32_t (*convert)(const char *, void *, int32_t), const Cells &given)
 {
     auto buffer = Buffer(Number(given[1]));
     const int32_t length = convert(given[0].c_str(), buffer.data(), Number(given[1]));
@@ -27,7 +27,7 @@ TEST(TextEncoding, ConvertsCutsAndDrops)
 TEST(TextEncoding, PPDFormIsParenthesisedUTF8)
 {
     CheckRows("text-parentheses", [](const Cells &given) -> Cells {
-        const auto convert = [](const char *source, char *destination, int32_t size) {
+        const auto convert = [](const char *source, void *destination, int32_t size) {
             return ConvertUTF8ToPPDEncoding(source, destination, size, kCFStringEncodingJIS_X0208_83);
         };
         return {Converted(convert, given)};

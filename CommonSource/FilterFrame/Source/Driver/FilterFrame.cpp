@@ -9,6 +9,7 @@
 #include "PPDLookup.h"
 #include "PSSpool.h"
 #include "PSStream.h"
+#include "Platform.h"
 #include "SystemVersion.h"
 #include "TextEncoding.h"
 #include "TicketReader.h"
@@ -20,7 +21,6 @@
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,7 +45,8 @@ void SignalPipeHandler(int)
     CancelJobForPipe = 1;
 }
 
-// Interrupted reads and writes are taken up again, so that a signal never costs a byte.
+// Interrupted reads and writes are taken up again, so that a signal never costs a byte. Who started the filter may have
+// blocked the signal.
 static void InstallHandler(int sig, void (*handler)(int))
 {
     struct sigaction action = {};
@@ -53,6 +54,10 @@ static void InstallHandler(int sig, void (*handler)(int))
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
     sigaction(sig, &action, nullptr);
+    sigset_t one;
+    sigemptyset(&one);
+    sigaddset(&one, sig);
+    sigprocmask(SIG_UNBLOCK, &one, nullptr);
 }
 
 // A descriptor of ours must never become standard input, output or error.
@@ -64,13 +69,6 @@ static void ReserveStandardDescriptors()
     while (descriptor >= 0 && descriptor <= STDERR_FILENO);
     if (descriptor > STDERR_FILENO)
         close(descriptor);
-}
-
-// A core file would hold the job's passwords.
-static void ForbidCoreFiles()
-{
-    const struct rlimit none = {0, 0};
-    setrlimit(RLIMIT_CORE, &none);
 }
 
 static void TakeUserName(const char *user)
@@ -119,7 +117,8 @@ static void JobCopyPath(char (&path)[kJobCopyPathSize])
         FormatCut(path, "/private/tmp/ov%s.job", timestamp);
 }
 
-// The directory may be shared: a link, a FIFO or somebody else's file under the copy's name is left alone.
+// The directory may be shared: a link, a FIFO or somebody else's file under the copy's name is left alone. Another copy
+// of the same second gives way, and until this one is finished only its owner reads it.
 static FILE *CreateJobCopy(const char *path)
 {
     const int file = open(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR);
@@ -128,7 +127,7 @@ static FILE *CreateJobCopy(const char *path)
     struct stat status;
     FILE *copy = nullptr;
     if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1 && status.st_uid == geteuid() &&
-        ftruncate(file, 0) == 0)
+        fchmod(file, S_IRUSR | S_IWUSR) == 0 && ftruncate(file, 0) == 0)
         copy = fdopen(file, "wb");
     if (!copy)
         close(file);
@@ -196,7 +195,7 @@ static bool AnswersWithoutJob(int argc, const char *const *argv)
 int FilterMain(int argc, const char *const *argv)
 {
     ReserveStandardDescriptors();
-    ForbidCoreFiles();
+    PlatformKeepMemoryPrivate();
     if (AnswersWithoutJob(argc, argv))
         return fflush(stdout) == 0 ? 0 : 1;
     if (argc < 6) {

@@ -101,9 +101,8 @@ std::string StorePassword(std::string_view password)
     unsigned char stored[kStoredPasswordSize];
     uint32_t storedLength = sizeof stored;
     if (password.empty() || password.size() > kStoredPasswordMaxLength ||
-        Encode_Storage(reinterpret_cast<const unsigned char *>(password.data()), static_cast<uint32_t>(password.size()),
-                       seed1, sizeof seed1, seed2, sizeof seed2, seed3, sizeof seed3, stored,
-                       &storedLength) != kSecBlobEncSuccess)
+        Encode_Storage(password.data(), static_cast<uint32_t>(password.size()), seed1, sizeof seed1, seed2,
+                       sizeof seed2, seed3, sizeof seed3, stored, &storedLength) != kSecBlobEncSuccess)
         return {};
 
     char base64[(sizeof stored + 2) / 3 * 4];

@@ -11,7 +11,7 @@ constexpr size_t kParenthesisedTextSize = 510;
 
 using UnitEncoder = size_t (*)(char16_t unit, std::span<char, kPlatformMaxUnitBytes> out);
 
-static int32_t Convert(const char *source, char *destination, int32_t size, UnitEncoder encode)
+static int32_t Convert(const char *source, void *destination, int32_t size, UnitEncoder encode)
 {
     if (size <= 0)
         return 0;
@@ -23,23 +23,23 @@ static int32_t Convert(const char *source, char *destination, int32_t size, Unit
     for (const char16_t unit : units) {
         char bytes[kPlatformMaxUnitBytes];
         const size_t count = std::min(encode(unit, std::span(bytes)), room - length);
-        memcpy(destination + length, bytes, count);
+        memcpy(static_cast<char *>(destination) + length, bytes, count);
         length += count;
     }
     return static_cast<int32_t>(length);
 }
 
-int32_t ConvertUTF8ToEncoding(const char *source, char *destination, int32_t size)
+int32_t ConvertUTF8ToEncoding(const char *source, void *destination, int32_t size)
 {
     return Convert(source, destination, size, PlatformEncodeShiftJIS);
 }
 
-int32_t ConvertUTF8ToEncodingForUTF8(const char *source, char *destination, int32_t size)
+int32_t ConvertUTF8ToEncodingForUTF8(const char *source, void *destination, int32_t size)
 {
     return Convert(source, destination, size, PlatformEncodeUTF8);
 }
 
-int32_t ConvertUTF8ToPPDEncoding(const char *source, char *destination, int32_t size, uint32_t)
+int32_t ConvertUTF8ToPPDEncoding(const char *source, void *destination, int32_t size, uint32_t)
 {
     if (size <= 0)
         return 0;
@@ -48,7 +48,7 @@ int32_t ConvertUTF8ToPPDEncoding(const char *source, char *destination, int32_t 
     const size_t length = strlen(source) + strlen("()");
     if (length >= static_cast<size_t>(size) || length >= kParenthesisedTextSize || !PlatformDecodeUTF8(source, units))
         return 0;
-    FormatCut({destination, static_cast<size_t>(size)}, "(%s)", source);
+    FormatCut({static_cast<char *>(destination), static_cast<size_t>(size)}, "(%s)", source);
     return static_cast<int32_t>(length);
 }
 

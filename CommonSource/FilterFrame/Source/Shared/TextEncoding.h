@@ -16,12 +16,12 @@ constexpr uint32_t kCFStringEncodingShiftJIS_X0213 = 0x0628;
 // Convert UTF-8 text to Shift-JIS (JIS X 0213) or, ForUTF8, to UTF-8, character by character into `size` bytes: a
 // character without an encoding is dropped, the cut may split one. Return the length written; 0, with the destination
 // all zero, when the source is not valid UTF-8.
-int32_t ConvertUTF8ToEncoding(const char *source, char *destination, int32_t size);
-int32_t ConvertUTF8ToEncodingForUTF8(const char *source, char *destination, int32_t size);
+int32_t ConvertUTF8ToEncoding(const char *source, void *destination, int32_t size);
+int32_t ConvertUTF8ToEncodingForUTF8(const char *source, void *destination, int32_t size);
 
 // Writes the text in parentheses, as UTF-8 whatever `encoding` says. Returns the length written; 0 when the source is
 // not valid UTF-8 or the result doesn't fit.
-int32_t ConvertUTF8ToPPDEncoding(const char *source, char *destination, int32_t size, uint32_t encoding);
+int32_t ConvertUTF8ToPPDEncoding(const char *source, void *destination, int32_t size, uint32_t encoding);
 
 // The encoding that the PPD's LanguageEncoding stands for; UTF-8 for null.
 uint32_t GetCFStringSimEncodingFromPPD(const ppd_file_t *ppd);

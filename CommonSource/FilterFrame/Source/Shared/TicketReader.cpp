@@ -21,7 +21,7 @@ constexpr size_t kTicketTextSize = 1024;
 // Position of the options among the filter's arguments.
 constexpr int kOptionsArgument = 5;
 
-using TextConverter = int32_t (*)(const char *source, char *destination, int32_t size);
+using TextConverter = int32_t (*)(const char *source, void *destination, int32_t size);
 
 // What the parsed options come from: the argument and, for what the PPD adds, its name, the user and the title. All of
 // it may hold a password, and so may the text that they are given with.
@@ -130,7 +130,7 @@ static int32_t DecodeAndConvert(const char *value, void *destination, int32_t si
     char text[kTicketTextSize];
     CopyCut(text, value);
     numstrtochar(text, sizeof text);
-    return convert(text, static_cast<char *>(destination), size);
+    return convert(text, destination, size);
 }
 
 // What the text getters share: present is what they return, length that of the converted text, 0 when absent.
@@ -154,7 +154,7 @@ int32_t GetTicketString(const char *key, int32_t optionCount, cups_option_t *opt
     Zero(destination, size);
     const char *value = cupsGetOption(key, optionCount, options);
     if (value)
-        ConvertUTF8ToEncoding(value, static_cast<char *>(destination), size);
+        ConvertUTF8ToEncoding(value, destination, size);
     return value != nullptr;
 }
 
@@ -182,7 +182,7 @@ int32_t GetLengthOfTicketStringConvertedToPrtLangForUTF8(const char *key, int32_
     return GetText(key, optionCount, options, destination, size, ConvertUTF8ToEncodingForUTF8).length;
 }
 
-static int32_t ConvertToQueueEncoding(const char *source, char *destination, int32_t size)
+static int32_t ConvertToQueueEncoding(const char *source, void *destination, int32_t size)
 {
     return ConvertUTF8ToPPDEncoding(source, destination, size, GetCFStringSimEncodingFromPPD(JobPPD()));
 }
