@@ -83,8 +83,16 @@ using PlatformAddress = std::vector<unsigned char>;
 // Longest numeric address, its NUL included (INET6_ADDRSTRLEN).
 constexpr size_t kPlatformAddressText = 46;
 
-// Looks the host up and answers at once. Returns false when it has no address.
-bool PlatformResolveHost(const char *name, std::vector<PlatformAddress> &addresses);
+// What came of a lookup. None is started for a name that no host can have (empty, or longer than 255 bytes), nor where
+// the system lacks the means.
+enum class PlatformLookup { Found, NoAddress, NotStarted };
+
+// Looks the host up and answers at once.
+PlatformLookup PlatformResolveHost(const char *name, std::vector<PlatformAddress> &addresses);
 
 // Formats an address numerically. Returns false, with `out` empty, when it can't.
 bool PlatformNumericAddress(const PlatformAddress &address, std::span<char, kPlatformAddressText> out);
+
+// The bytes of a numeric address in network order: 4, or 16 without its zone; 4 also for an IPv4-mapped one (RFC 4291).
+// None for a text that is not an address.
+std::vector<unsigned char> PlatformAddressBytes(std::string_view text);

@@ -22,15 +22,12 @@ static PlatformAddress Address(const std::string &text)
 TEST(HostAddress, ChoosesAmongTheAddresses)
 {
     CheckRows("host-addresses", [](const Cells &given) -> Cells {
-        char chosen[kPlatformAddressText] = "old";
-        getHostAddress("", chosen, sizeof chosen); // no host has this name: it only sets the destination
-        EXPECT_STREQ(chosen, "");
-        HostLookup *host = new HostLookup;
+        std::vector<PlatformAddress> addresses;
         std::istringstream list(given[0]);
         for (std::string text; list >> text;)
-            host->push_back(Address(text));
-        MyCFHostClientCallBack(host, 0, "host");
-        return {chosen};
+            addresses.push_back(Address(text));
+        const ChosenAddress chosen = ChooseAddress(addresses);
+        return {chosen.text, chosen.readable ? "yes" : "no"};
     });
 }
 
@@ -40,16 +37,35 @@ TEST(HostAddress, StoresWithinTheDestination)
     EXPECT_TRUE(getHostAddress("192.0.2.33", text.data(), 6));
     EXPECT_TRUE(getHostAddress("192.0.2.33", text.data(), 0));
     EXPECT_EQ(TextOf(text), "192.0");
+    EXPECT_TRUE(getHostAddress("127.0.0.1", text.data(), 6)); // it has an address, though none to report
+    EXPECT_EQ(TextOf(text), "");
     EXPECT_FALSE(getHostAddress("192.0.2.33", text.data(), -1));
     EXPECT_FALSE(getHostAddress(nullptr, text.data(), 6));
     EXPECT_FALSE(getHostAddress("192.0.2.33", nullptr, 6));
 }
 
+TEST(HostAddress, LookupsThatEndWithoutAnAddress)
+{
+    char text[kPlatformAddressText] = "old";
+    HostLookup lookup = {text, sizeof text, false, {}};
+    EXPECT_FALSE(MyResolveNameToAddress("", &lookup));
+    EXPECT_FALSE(MyResolveNameToAddress(std::string(256, 'a').c_str(), &lookup));
+    lookup.addresses = {Address("192.0.2.33")};
+    MyCFHostClientCallBack(&lookup, -1, "host");
+    EXPECT_FALSE(lookup.result);
+    EXPECT_STREQ(text, "old");
+    EXPECT_TRUE(lookup.addresses.empty());
+    EXPECT_TRUE(MyResolveNameToAddress("192.0.2.33", &lookup));
+    EXPECT_STREQ(text, "192.0.2.33");
+}
+
 TEST(HostAddressDeathTest, EndsTheProcessWithTheConditionThatFailed)
 {
     char text[8];
-    const HostLookup unreadable = {PlatformAddress()};
+    HostLookup unreadable = {text, sizeof text, false, {PlatformAddress()}};
     EXPECT_DEATH(getHostAddress("\xC3\xA9", text, sizeof text), "inputString != NULL");
+    EXPECT_DEATH(MyResolveNameToAddress(nullptr, &unreadable), "\\(hostName != NULL");
+    EXPECT_DEATH(MyResolveNameToAddress("host", nullptr), "\\(host != NULL");
     EXPECT_DEATH(MyPrintAddressArray(&unreadable, "host"), "addr != NULL");
 }
 

@@ -17,12 +17,18 @@ size_t CopyCut(std::span<char> destination, std::string_view text)
 
 size_t FormatCut(std::span<char> destination, const char *format, ...)
 {
-    if (destination.empty())
-        return 0;
     va_list arguments;
     va_start(arguments, format);
-    const int wanted = vsnprintf(destination.data(), destination.size(), format, arguments);
+    const size_t length = FormatCutList(destination, format, arguments);
     va_end(arguments);
+    return length;
+}
+
+size_t FormatCutList(std::span<char> destination, const char *format, va_list arguments)
+{
+    if (destination.empty())
+        return 0;
+    const int wanted = vsnprintf(destination.data(), destination.size(), format, arguments);
     if (wanted < 0) {
         destination[0] = '\0';
         return 0;

@@ -18,9 +18,9 @@ int32_t IsCtrlSym(const char *pair)
     return FindCtrlSym(pair) != nullptr;
 }
 
-char *GetNextCtrlSym(char *text)
+const char *GetNextCtrlSym(const char *text)
 {
-    for (char *percent = strchr(text, '%'); percent; percent = strchr(percent + 1, '%')) {
+    for (const char *percent = strchr(text, '%'); percent; percent = strchr(percent + 1, '%')) {
         const char pair[] = {percent[0], percent[1], '\0'};
         if (IsCtrlSym(pair))
             return percent;
@@ -62,10 +62,10 @@ void BuildPrintComand(const char *format, const CmdParaTable *symPara, char *out
     memset(out, 0, outSize);
 
     size_t length = 0;
-    char *cursor = working;
-    for (int32_t index = 0; char *symbol = GetNextCtrlSym(cursor); index++) {
+    const char *cursor = working;
+    for (int32_t index = 0; const char *symbol = GetNextCtrlSym(cursor); index++) {
         const char pair[] = {symbol[0], symbol[1], '\0'};
-        *symbol = '\0';
+        working[symbol - working] = '\0';
         if (getCtrlSym(pair, symPara->list[index], value, sizeof value) == 0)
             return;
         Append(out, outSize, length, cursor);

@@ -34,7 +34,7 @@ inline constexpr int32_t CtrlSymNum = std::size(ctrlSymTalbe);
 int32_t IsCtrlSym(const char *pair);
 
 // Returns the "%" of the first control symbol in `text`, or null.
-char *GetNextCtrlSym(char *text);
+const char *GetNextCtrlSym(const char *text);
 
 // Formats the parameter of the symbol `pair` into `value`, at most valueSize bytes with its NUL. Returns the length of
 // the text, 0 when `pair` is no symbol.

@@ -2,13 +2,15 @@
 
 #include "OutputSink.h"
 
-#include <cstring>
+#include <algorithm>
+#include <iterator>
+#include <string_view>
 
 const char KPPDOutputModeKey[] = "OVOutputMode";
 const char KPPDFrameModeKey[] = "OVFrameMode";
 const char KPPDHalfToneKey[] = "OVHalftone";
 
-const FeatureCommand FeaturePPDKeyNameandMarkedValuetoPJLCommand[kFeatureCommandCount] = {
+static constexpr FeatureCommand featureCommands[] = {
     {"OVSetTrapMode", "False", "@PJL SET JOBATTR=\"@TRAP=OFF\"\n"},
     {"OVSetTrapMode", "True", "@PJL SET JOBATTR=\"@TRAP=ON\"\n"},
     {"OVLetterHeadDuplexMode", "DupAuto", "@PJL SET JOBATTR=\"@DDPM=AUTO\"\n"},
@@ -134,35 +136,46 @@ const FeatureCommand FeaturePPDKeyNameandMarkedValuetoPJLCommand[kFeatureCommand
     {"OVColorDensityBlackHigh", "+3", "@PJL SET JOBATTR=\"@AJKH=6\"\n"},
 };
 
+static_assert(std::size(featureCommands) == 123);
+const std::span<const FeatureCommand> FeaturePPDKeyNameandMarkedValuetoPJLCommand = featureCommands;
+
 const char *const PPDKeyArray[] = {
     "OVSetTrapMode", "OVGrayBalance", "OVBrightnes", "OVRGBInputProfile", "OVRGBBCorrection", "OVTonerSaver", nullptr,
 };
 
-// The choice whose line is a keyword's neutral one.
-static const struct {
-    const char *keyword;
-    const char *value;
-} neutralChoices[] = {
-    {"*OVSetTrapMode", "False"},    {"*OVGrayBalance", "False"},   {"*OVBrightnes", "Normal"},
-    {"*OVRGBInputProfile", "SRGB"}, {"*OVRGBBCorrection", "Dark"}, {"*OVTonerSaver", "False"},
+static constexpr const char *CommandOf(std::string_view keyword, std::string_view value)
+{
+    for (const FeatureCommand &row : featureCommands)
+        if (keyword == row.keyword && value == row.value)
+            return row.command;
+    return nullptr;
+}
+
+// The line that a keyword stands at when nothing is to be changed.
+static constexpr struct {
+    std::string_view keyword;
+    const char *command;
+} neutralCommands[] = {
+    {"OVSetTrapMode", CommandOf("OVSetTrapMode", "False")},
+    {"OVGrayBalance", CommandOf("OVGrayBalance", "False")},
+    {"OVBrightnes", CommandOf("OVBrightnes", "Normal")},
+    {"OVRGBInputProfile", CommandOf("OVRGBInputProfile", "SRGB")},
+    {"OVRGBBCorrection", CommandOf("OVRGBBCorrection", "Dark")},
+    {"OVTonerSaver", CommandOf("OVTonerSaver", "False")},
 };
+static_assert(std::ranges::none_of(neutralCommands, [](const auto &neutral) { return neutral.command == nullptr; }));
 
 const char *GetThePJLCommandfromKeywordsandMarkedValue(const char *keyword, const char *value)
 {
-    if (*keyword != '*')
-        return nullptr;
-    for (const FeatureCommand &row : FeaturePPDKeyNameandMarkedValuetoPJLCommand)
-        if (strcmp(keyword + 1, row.keyword) == 0 && strcmp(value, row.value) == 0)
-            return row.command;
-    return nullptr;
+    return *keyword == '*' ? CommandOf(keyword + 1, value) : nullptr;
 }
 
 void OutputPJLCommandForPPDKeyArray(const char *const *keywords, ppd_file_t *ppd)
 {
     for (; *keywords; keywords++)
-        for (const auto &[keyword, value] : neutralChoices)
-            if (strcmp(*keywords, keyword + 1) == 0 && !PPDHasOption(ppd, *keywords))
-                QBfputs(GetThePJLCommandfromKeywordsandMarkedValue(keyword, value), stdout);
+        for (const auto &[keyword, command] : neutralCommands)
+            if (keyword == *keywords && !PPDHasOption(ppd, *keywords))
+                QBfputs(command, stdout);
 }
 
 void outputZPJLCommandFromArray(const char *const *names, const int32_t *values)

@@ -5,9 +5,9 @@
 #include "PPDLookup.h"
 
 #include <cstdint>
+#include <span>
 
-// Main keywords that the spooled mode looks at itself. The frame mode has no line: the printer takes it from its
-// feature code.
+// Main keywords that the spooled mode looks at itself, save the frame mode's, which no step of it reads.
 extern const char KPPDOutputModeKey[];
 extern const char KPPDFrameModeKey[];
 extern const char KPPDHalfToneKey[];
@@ -22,8 +22,7 @@ struct FeatureCommand {
     char command[kFeatureCommandSize];
 };
 
-constexpr int32_t kFeatureCommandCount = 123;
-extern const FeatureCommand FeaturePPDKeyNameandMarkedValuetoPJLCommand[kFeatureCommandCount];
+extern const std::span<const FeatureCommand> FeaturePPDKeyNameandMarkedValuetoPJLCommand;
 
 // Settings that take their neutral value when the queue's PPD doesn't offer them; ends with null.
 extern const char *const PPDKeyArray[];

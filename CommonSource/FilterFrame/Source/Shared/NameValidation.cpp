@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,10 +38,26 @@ constexpr ValidateDataScale spaceDataScale = {{0, {}}, {1, {{0x8140, 0x8140}}}};
 constexpr size_t kUserNameLimit = 255;
 constexpr size_t kJBAUserNameUnits = 32;
 
-// Limits of a document name by product type, in UTF-16 units or columns, and the plain limit in bytes.
+// The limit of a document name in bytes, whatever the product.
 constexpr size_t kDocumentNameLimit = 24;
-constexpr size_t kDocumentNameLimitProduct02 = 12;
-constexpr size_t kDocumentNameLimitProduct03 = 64;
+
+// What a document name may be by product type; the last row is for every other type.
+// limit: in UTF-16 units in UTF-8 mode, otherwise in columns.
+// scale, scaleForUTF8: what the print-type name may hold; legacy characters in UTF-8 mode leave little but ASCII.
+// replaces: in legacy mode the print-type name is emptied before it takes the document's.
+struct DocumentNameRule {
+    int32_t type;
+    size_t limit;
+    const ValidateDataScale &scale;
+    const ValidateDataScale &scaleForUTF8;
+    bool replaces;
+};
+static const DocumentNameRule documentNameRules[] = {
+    {2, 12, docuNameValidateDataScaleForProduct02, docuNameValidateDataScale, true},
+    {3, 64, docuNameValidateDataScaleForProduct03, docuNameValidateDataScaleForProduct03UTF8, true},
+    {5, 24, docuNameValidateDataScale, docuNameValidateDataScaleForProduct03UTF8, false},
+    {-1, 24, docuNameValidateDataScale, docuNameValidateDataScale, false},
+};
 
 // A unit with one of these bits counts two columns.
 constexpr unsigned kWideUnitBits = 0x1100;
@@ -190,23 +207,15 @@ void InvalidateStdUserName()
     CopyCut(StdUserName, defaultUserName);
 }
 
-// Reads the product type; false when the job has none.
-static bool ReadProductType(const char *const *argv, int32_t &type)
+// The rule of the job's product type; null when the job names none.
+static const DocumentNameRule *RuleOfJob(const char *const *argv)
 {
     const JobOptions options = OptionsOfJob(argv);
-    return GetTicketInteger(kPrintTypeProductType, options.count, options.list, &type, sizeof type) == 1;
-}
-
-static size_t DocumentNameLimit(int32_t type)
-{
-    return type == 3 ? kDocumentNameLimitProduct03 : type == 2 ? kDocumentNameLimitProduct02 : kDocumentNameLimit;
-}
-
-static const ValidateDataScale &LegacyDocumentNameScale(int32_t type)
-{
-    return type == 3   ? docuNameValidateDataScaleForProduct03
-           : type == 2 ? docuNameValidateDataScaleForProduct02
-                       : docuNameValidateDataScale;
+    int32_t type;
+    if (GetTicketInteger(kPrintTypeProductType, options.count, options.list, &type, sizeof type) == 0)
+        return nullptr;
+    const DocumentNameRule *const other = std::end(documentNameRules) - 1;
+    return std::find_if(documentNameRules, other, [type](const DocumentNameRule &rule) { return rule.type == type; });
 }
 
 static void DropInvalidPrintTypeName(const ValidateDataScale &scale)
@@ -217,37 +226,34 @@ static void DropInvalidPrintTypeName(const ValidateDataScale &scale)
 
 void InvalidateStdDocumentNameForProductType(const char *const *argv)
 {
-    int32_t type;
-    const bool present = ReadProductType(argv, type);
+    const DocumentNameRule *const rule = RuleOfJob(argv);
     if (IsUTF8Mode()) {
-        if (present)
-            CutToUnits(StdDocumentName, DocumentNameLimit(type));
+        if (rule)
+            CutToUnits(StdDocumentName, rule->limit);
         return;
     }
-    if (!present) {
+    if (!rule) {
         DropInvalidPrintTypeName(docuNameValidateDataScale);
         return;
     }
-    const size_t limit = DocumentNameLimit(type);
-    CutToWidth(StdDocumentName, limit);
-    if (type == 2 || type == 3)
+    CutToWidth(StdDocumentName, rule->limit);
+    if (rule->replaces)
         Clear(PTStdDocumentName);
-    memcpy(PTStdDocumentName, StdDocumentName, limit);
-    DropInvalidPrintTypeName(LegacyDocumentNameScale(type));
+    memcpy(PTStdDocumentName, StdDocumentName, rule->limit);
+    DropInvalidPrintTypeName(rule->scale);
 }
 
 void InvalidatePrintTypeDocumentNameForProductType(const char *const *argv)
 {
-    int32_t type;
-    if (!ReadProductType(argv, type)) {
+    const DocumentNameRule *const rule = RuleOfJob(argv);
+    if (!rule) {
         DropInvalidPrintTypeName(docuNameValidateDataScale);
     } else if (IsUTF8Mode()) {
-        CutToUnits(PTStdDocumentName, DocumentNameLimit(type));
-        DropInvalidPrintTypeName(type == 3 || type == 5 ? docuNameValidateDataScaleForProduct03UTF8
-                                                        : docuNameValidateDataScale);
+        CutToUnits(PTStdDocumentName, rule->limit);
+        DropInvalidPrintTypeName(rule->scaleForUTF8);
     } else {
-        CutToWidth(PTStdDocumentName, DocumentNameLimit(type));
-        DropInvalidPrintTypeName(LegacyDocumentNameScale(type));
+        CutToWidth(PTStdDocumentName, rule->limit);
+        DropInvalidPrintTypeName(rule->scale);
     }
 }
 

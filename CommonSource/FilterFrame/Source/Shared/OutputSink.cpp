@@ -1,5 +1,7 @@
 #include "OutputSink.h"
 
+#include "BoundedText.h"
+
 #include <algorithm>
 #include <cstdarg>
 
@@ -38,7 +40,7 @@ void QBfprintfCut(FILE *stream, size_t size, const char *format, ...)
     char line[kMaxDirectLineSize] = "";
     va_list arguments;
     va_start(arguments, format);
-    vsnprintf(line, std::min(size, sizeof line), format, arguments);
+    FormatCutList({line, std::min(size, sizeof line)}, format, arguments);
     va_end(arguments);
     QBfputs(line, stream);
 }
