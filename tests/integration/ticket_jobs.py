@@ -12,11 +12,9 @@ import tempfile
 import unittest
 
 FILTER, COPYING_FILTER, STOREPASSWORD, PPDS, DATA, DOCUMENT = sys.argv[1:7]
-# The job cases know how a printer opens a blob.
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "jobs"))
-sys.argv[1:] = [FILTER, COPYING_FILTER, PPDS, DATA]
 
-from job_cases import opened
+from blobs import Blob
 from private_cups import PrivateCups, Printer, wait_for
 
 TICKET = "com.orvane.dlg.printsettings."
@@ -115,7 +113,7 @@ class Jobs(unittest.TestCase):
         job = bytes(self.printer.jobs[index])
         self.assertNotIn(PIN.encode(), job)
         header, _, document = job.partition(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n")
-        header = re.sub(rb'(KEY=")([^"]{492})"', lambda blob: blob[1] + b"{" + opened(blob[2]) + b'}"', header)
+        header = re.sub(rb'(KEY=")([^"]{492})"', lambda blob: blob[1] + b"{" + Blob(blob[2]).password + b'}"', header)
         return header.split(b"\n"), document.split(b"\n")
 
     def lp(self, queue, *options):
