@@ -1,4 +1,4 @@
-# What makes a fault in a release build harder to use. Each flag is probed: compilers and linkers differ in what they know.
+# Flags that make a fault in a release build harder to exploit. Each is probed: not all compilers and linkers know it.
 include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 include(CheckPIESupported)

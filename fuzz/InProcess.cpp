@@ -21,7 +21,7 @@ static const char kTrailer[] = "\x1B%-12345X@PJL EOJ\n";
 // Parsed PPDs that are asked again and again, by their path.
 static std::map<std::string, ppd_file_t *> keptPPDs;
 
-// Stand in front of the library's, which leaks a few bytes for some PPDs that repeat a keyword. What it allocates is
+// Called instead of the library's, which leaks a few bytes for some PPDs that repeat a keyword. What it allocates is
 // not looked at; a suppression by the function's name would need a symbolizer, which machines need not have.
 extern "C" ppd_file_t *ppdOpenFile(const char *path)
 {

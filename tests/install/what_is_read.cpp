@@ -18,7 +18,7 @@
 
 static std::set<std::string> asked = {KPPDOutputModeKey, KPPDFrameModeKey, KPPDHalfToneKey};
 
-// Stands in front of the library's.
+// Is called instead of the library's.
 extern "C" const char *cupsGetOption(const char *name, int count, cups_option_t *options)
 {
     asked.insert(name);

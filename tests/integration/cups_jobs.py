@@ -16,7 +16,7 @@ TICKET = "com.orvane.dlg.printsettings."
 ENTER = b"@PJL ENTER LANGUAGE=POSTSCRIPT\n"
 TRAILER = b"\x1b%-12345X@PJL EOJ\n"
 
-# Who sent the job; cupsd always tells how many pages there are on a sheet.
+# Who sent the job, and how many pages a sheet has, which cupsd always says.
 ACCOUNTING = f"""@PJL SET JOBATTR="@CNAM={socket.gethostname()}"
 @PJL SET JOBATTR="@LUNA=taro"
 @PJL SET JOBATTR="@NLPP=N1"
@@ -74,7 +74,7 @@ PRODUCTION_HEADER = """\x1b%-12345X@PJL SET STRINGCODESET=UTF8
 @PJL SET REDUCTIONRATE=0
 @PJL SET RENDERMODE=COLOR
 """
-# What the document's feature code becomes. In which order pstops lists the features is its own affair.
+# What the document's feature code becomes. pstops may list the features in any order.
 PRODUCTION_FEATURES = """@PJL SET RESOLUTION=600
 @PJL SET BITSPERPIXEL=1
 @PJL SET JOBATTR="@DRDM=RASTER"
@@ -166,7 +166,7 @@ class Jobs(unittest.TestCase):
         self.assertCountEqual(features, PRODUCTION_FEATURES.splitlines())
 
     def test_cancelled_job_still_ends(self):
-        # Far more than what fits between the filter and the printer, so that the job is cancelled in its midst.
+        # Far more than what fits between the filter and the printer, so that the job is cancelled while it is being sent.
         document = self.cups.path("long.ps")
         pages = 160
         with open(document, "w") as file:

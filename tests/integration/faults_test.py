@@ -54,7 +54,7 @@ STORED = " ".join(TICKET + ticket for ticket in (
 
 
 def pages(count, lines=40):
-    """A document whose pages end in all three ways, and which goes on behind the last page."""
+    """A document whose pages end in all three ways, and which goes on after the last page."""
     page = b"0 0 moveto 612 792 lineto stroke\n" * lines
     return (b"%!PS\n" + b"".join(b"bp\n" + page + PAGE_ENDS[n % 3] for n in range(count)) + b"%%Trailer\n" + page)
 
@@ -216,7 +216,7 @@ class Faults(unittest.TestCase):
                     self.assert_job(output, document + b"\x04")
 
     def cancel_at(self, document, position, spooled, **settings):
-        # Into a file: what the filter waits for is then only its input.
+        # Into a file, so that the filter waits only for its input.
         output = self.folder / "output"
         with output.open("wb") as file:
             process = self.start(spooled=spooled, stdout=file, **settings)
@@ -246,7 +246,7 @@ class Faults(unittest.TestCase):
                 self.assert_job(output, document + b"\x04" if begin is None else document[:begin])
             with self.subTest(position=position, spooled=True):
                 output = self.cancel_at(document, position, True)
-                # Cancelled on its way in, the job leaves its spool file; on its way out, it ends behind a page.
+                # Cancelled on its way in, the job leaves its spool file; on its way out, it ends after a page.
                 self.assert_job(output, document[:ends[0][1]] if begin is None else None)
                 left = self.spool_files()
                 self.assertEqual([file.read_bytes() for file in left], [] if begin is None else [document[:begin]])

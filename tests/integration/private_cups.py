@@ -21,7 +21,7 @@ def wait_for(condition, what):
 
 
 class Printer:
-    """A socket on the loopback interface that takes one job after the other. Held, it stops reading in the midst."""
+    """A socket on the loopback interface that takes one job after the other. Held, it stops reading in the middle of one."""
 
     HEAD = 16 * 1024  # bytes of a job that it takes even when held: more than a header
 
@@ -92,7 +92,7 @@ class PrivateCups:
 
     def _make_server_bin(self):
         # Filters and backends of the system, and the filter under test: a copy, since cupsd run by root refuses a
-        # filter that is not root's or lies where others may write.
+        # filter that does not belong to root or is where others may write.
         system = subprocess.run(["cups-config", "--serverbin"], check=True, capture_output=True, text=True).stdout.strip()
         for folder in ("filter", "backend", "daemon", "driver", "notifier", "cgi-bin", "monitor"):
             os.makedirs(self.path("bin", folder), 0o755)

@@ -1,4 +1,4 @@
-"""Ghostscript as the printer: the mark of a watermarked job stands in the middle of its pages, and nothing else changed.
+"""Ghostscript as the printer: the mark of a watermarked job is in the middle of its pages, and nothing else has changed.
 
 usage: rendered_watermarks.py FILTER
 
