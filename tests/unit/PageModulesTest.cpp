@@ -24,6 +24,20 @@ TEST(SpecialPage, MapsOnlyWholePairs)
     EXPECT_STREQ(value, "2");
 }
 
+TEST(PBind, TrimmingsThatTheDialogLacksAreKnownByTheirEdges)
+{
+    const std::string cuts = " OVPBindCutPageSize=A4 OVPBindCutPositionTop=4mm OVPBindCutPositionFore=5mm";
+    for (const auto &[dialog, pjl] : {std::pair{"1EdgeNew", "FACE"}, {"3EdgeNew", "FULLBLEED"}, {"Edge", "Edge"}}) {
+        const std::string options = "OVPBindTrimming=" + std::string(dialog) + cuts;
+        const char *argv[] = {"filter", "1", "taro", "Report", "1", options.c_str(), nullptr};
+        PBindGetTicketFromPDE(argv);
+        EXPECT_STREQ(psoptionpbind.trimming, pjl);
+        EXPECT_STREQ(psoptionpbind.cutPageSize, "");
+        EXPECT_STREQ(psoptionpbind.cutPositionTop, "4mm");
+        EXPECT_STREQ(psoptionpbind.cutPositionFore, "5mm");
+    }
+}
+
 TEST(PBind, MappedValueIsCutToItsBuffer)
 {
     auto value = Buffer(5);
