@@ -126,7 +126,7 @@ class RenderedDocuments(unittest.TestCase):
         paper = "<</PageSize[595 842]>>setpagedevice\n"
         page = "l showpage\n"
         wide, letter = (f"<</PageSize[{size}]>>setpagedevice {page}" for size in ("842 595", "612 792"))
-        every_other = ("<</EndPage{exch 2 mod 0 eq exch 2 ne and dup{gsave 0 0 1 setrgbcolor 50 50 90 90 rectfill "
+        every_other = ("<</EndPage{exch 2 mod 1 eq exch 2 ne and dup{gsave 0 0 1 setrgbcolor 50 50 90 90 rectfill "
                        "grestore}if}>>setpagedevice\n")
         names = "save restore put stopped mark array roll bind findfont setfont show moveto rotate"
         redefined = "".join(f"/{name}{{1 (redefined) ne}}def\n" for name in names.split())
@@ -136,7 +136,9 @@ class RenderedDocuments(unittest.TestCase):
                  ["0 0 moveto 300 300 lineto stroke showpage\n", page], [A4] * 2),
                 ("colour", paper + "/DeviceCMYK setcolorspace 1 0 0 0 setcolor 2 setlinejoin 1 setlinecap\n",
                  ["40 setlinewidth 90 90 moveto 300 300 lineto 150 100 lineto stroke showpage\n"], [A4]),
-                ("own EndPage", paper + every_other, [page] * 5, [A4] * 3),
+                ("own EndPage", paper + every_other, [page] * 5, [A4] * 2),
+                ("deactivation", paper + "/out false def<</EndPage{exch pop 2 eq{out}{true}ifelse}>>setpagedevice\n",
+                 ["l/out true def<</PageSize[612 792]>>setpagedevice/out false def\n", page], [None, LETTER]),
                 ("copypage", paper, ["l copypage 300 300 90 90 rectfill showpage\n"], [A4] * 2),
                 ("save", paper, ["save l showpage restore\n", "/s save def l showpage s restore\n"], [A4] * 2),
                 ("global", paper + "true setglobal\n", [page] * 2 + ["currentglobal{l}if showpage\n"], [A4] * 3),
@@ -153,7 +155,8 @@ class RenderedDocuments(unittest.TestCase):
                 self.check(f"%!PS-Adobe-3.0\n%%EndComments\n{lines}%%BeginSetup\n{setup}%%EndSetup\n{body}%%Trailer\n"
                            .encode(), expected)
                 self.check(f"%!PS-Adobe-3.0\n{lines}{setup}%%EndSetup\n{body}".encode(),
-                           [expected[0]] + [None] * (len(expected) - 1), MARK | {"OnlyFirst": 1})
+                           [size and (None if any(expected[:n]) else size) for n, size in enumerate(expected)],
+                           MARK | {"OnlyFirst": 1})
         self.label = "no comments"
         self.check(f"%!\r\n% \r\n{lines}{paper}{page}{wide}".encode(), [A4, WIDE])
 

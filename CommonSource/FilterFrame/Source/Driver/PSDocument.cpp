@@ -43,9 +43,6 @@ static constexpr PSMarker markers[] = {
     {"endp", kEventEndPageOfPM, kInjectBefore | kCountPage | kPageEnd},
     {"showpage", 0, kPageEnd},
 };
-static_assert(std::ranges::all_of(markers, [](const PSMarker &marker) { return CanBeMarker(marker.text[0]); }),
-              "the line reader would pass over this marker");
-
 static constexpr std::string_view kCopiesComment = "%RBINumCopies:"; // of pstops
 static constexpr struct {
     std::string_view text; // the line's beginning
@@ -57,6 +54,10 @@ static constexpr struct {
     {"%%Trailer", PSComment::Trailer},
     {kCopiesComment, PSComment::Copies},
 };
+
+static constexpr auto isRead = [](const auto &line) { return CanBeMarker(line.text[0]); };
+static_assert(std::ranges::all_of(markers, isRead) && std::ranges::all_of(comments, isRead),
+              "the line reader would pass over one of these lines");
 
 static const PSMarker *FindMarker(std::string_view line)
 {
@@ -156,7 +157,6 @@ static void ReportPage(PSDocumentCopy &copy)
 {
     if (!copy.inPage)
         return;
-    copy.inPage = false;
     if (copy.copies > 0)
         fprintf(stderr, "PAGE: %d %d\n", copy.page, copy.copies);
     else
