@@ -272,8 +272,8 @@ class Faults(unittest.TestCase):
             ppd.write_text(ppd.read_text() + attribute)
         inner = b"%%BeginDocument: a\n%%Page: 1 1\n%%Trailer\n%%EndDocument\n"
         page = inner + b"0 0 moveto\n" * 40
-        document = b"%!PS-Adobe-3.0\n" + b"".join(b"%%%%Page: %d %d\n" % (n, n) + page for n in range(1, 80))
-        document += b"%%Trailer\nend\n"
+        start = b"%!PS-Adobe-3.0\n" + inner
+        document = start + b"".join(b"%%%%Page: %d %d\n" % (n, n) + page for n in range(1, 80)) + b"%%Trailer\nend\n"
         second, last, trailer = (document.rindex(line) for line in (b"%%Page: 2 ", b"%%Page: 79", b"%%Trailer"))
         # Where the signal comes, where the job ends (None: at the document's end) and how many pages were reported.
         for position, end, logged in ((second - 5, second, 1), (last + 2, last, 78), (trailer + 9, trailer, 79),
@@ -287,12 +287,22 @@ class Faults(unittest.TestCase):
                     if end is not None:
                         self.assert_job(output, None if spooled else document[:end])
                     elif spooled:
-                        self.assert_job(output, document[:document.index(b"%%Page: 1 1")])
+                        self.assert_job(output, start)
                     else:
                         self.assert_job(output, document + b"\x04")
                     for file in self.spool_files():
                         self.assertEqual(file.read_bytes(), document[:end])
                         file.unlink()
+        # Cancelled on its way to the printer, in the midst of a picture: the page is over where the next one begins.
+        picture = start + b"%%Page: 1 1\n" + inner.replace(b"%%Trailer\n", b"%%Page: 2 2\n0 0 moveto\n" * 4 * PIPE)
+        process = self.start(file=self.write("document.ps", picture + b"%%Page: 2 2\n" + page * 99), spooled=True)
+        output = process.stdout.read(3 * PIPE)
+        self.settle(process)
+        process.send_signal(signal.SIGTERM)
+        self.settle(process)
+        output += process.stdout.read()
+        self.assertEqual(self.end(process), 0)
+        self.assert_job(output, picture)
 
     def test_spooled_job_copy_has_the_document_once(self):
         options = f"{TICKET}WMARKNameTicket=a {TICKET}WMARKTypeTicket=0"
