@@ -192,9 +192,9 @@ class RenderedDocuments(unittest.TestCase):
         geometry = {"Orientation": 1, "PaperWidth": 400, "PaperHeight": 600, "Width": 280, "Height": 63, "hOffset": 20,
                     "vOffset": -30, "Angle": 0}
         document = b"%!PS-Adobe-3.0\n<</PageSize[595 842]>>setpagedevice\n%%EndSetup\n%%Page: 1 1\nshowpage\n"
-        for width, left in ((280, "-140"), (-1, "dup stringwidth pop -2 div")):
-            with self.subTest(width=width):
-                self.check(document, [A4], MARK | geometry | {"Width": width}, lambda size: (
+        for width, height, left in ((280, 63, "-140"), (280, -1, "-140"), (-1, 63, "dup stringwidth pop -2 div")):
+            with self.subTest(width=width, height=height):
+                self.check(document, [A4], MARK | geometry | {"Width": width, "Height": height}, lambda size: (
                     f"%!\n<</PageSize[595 842]>>setpagedevice {COLOUR} setrgbcolor /Helvetica-Bold 90 selectfont "
                     f"220 270 translate (DRAFT) {left} -31.5 moveto show showpage"))
 
