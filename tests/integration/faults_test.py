@@ -293,6 +293,11 @@ class Faults(unittest.TestCase):
                     for file in self.spool_files():
                         self.assertEqual(file.read_bytes(), document[:end])
                         file.unlink()
+        # A page whose own end does not go out is not reported.
+        shown = b"%!PS-Adobe-3.0\n%%Page: 1 1\nshowpage\n%%Page: 2 2\nshowpage\n"
+        self.assert_job(self.cancel_at(shown, len(shown) - 3, False), shown[:-len(b"showpage\n")])
+        self.messages.seek(0)
+        self.assertEqual(self.messages.read(), b"PAGE: 1 1\n")
         # Cancelled on its way to the printer, in the midst of a picture: the page is over where the next one begins.
         picture = start + b"%%Page: 1 1\n" + inner.replace(b"%%Trailer\n", b"%%Page: 2 2\n0 0 moveto\n" * 4 * PIPE)
         process = self.start(file=self.write("document.ps", picture + b"%%Page: 2 2\n" + page * 99), spooled=True)
