@@ -323,16 +323,6 @@ class Faults(unittest.TestCase):
         self.assertEqual(copy.read_bytes(),
                          header.removesuffix(feature) + before + feature + line + after + ENTER + TRAILER)
 
-    def test_older_job_copy_of_the_same_second_is_replaced(self):
-        now = time.time()
-        names = [time.strftime("wq%Y%m%d%H%M%S.job", time.localtime(now + n)) for n in range(BOUND)]
-        for name in names:
-            (self.temporary / name).write_bytes(b"x" * 10000)
-        output = self.run_job(b"showpage\n", program=COPYING_FILTER)
-        copies = [file.read_bytes() for file in self.spool_files()]
-        self.assertEqual([copy for copy in copies if copy != b"x" * 10000], [output])
-        self.assertEqual(len(copies), len(names))
-
     def test_screen_value_across_the_hundredth_digit(self):
         output = self.run_job(b"TCPR GCPR ICPR" + b" abcd 12" * 49 + b" abcd 3 abcd 45 abcd 6\n", spooled=True)
         lines = [line for line in output.partition(ENTER)[0].split(b"\n") if b"abcd" in line]

@@ -1,6 +1,7 @@
-// Where a mark begins, on A4.
+// Where a mark begins, on A4, and the block of an event that no line of a document stands for.
 #include "Watermark.h"
 
+#include "InjectionEvents.h"
 #include "Rows.h"
 
 #include <algorithm>
@@ -23,5 +24,26 @@ TEST(Watermark, OriginOfTheTurnedBox)
             const float near = std::max(0.001F, std::abs(expected) * 6e-8F); // a thousandth of a point or half a step
             EXPECT_NEAR(place[i] - (i == 0 ? 12.5F : -30.25F), expected, near) << row.where;
         }
+    }
+}
+
+// A density above 100 goes beyond the colour.
+TEST(Watermark, PageOfTheFiltersOwn)
+{
+    for (const auto &[density, colour] : {std::pair(150, "-0.20 0.25 0.85"), std::pair(22, "0.82 0.89 0.98")}) {
+        const std::string tickets = "com.orvane.dlg.printsettings.WMARKNameTicket=a "
+                                    "com.orvane.dlg.printsettings.WMARKTypeTicket=0 "
+                                    "com.orvane.dlg.printsettings.WMARKColorRTicket=.2 "
+                                    "com.orvane.dlg.printsettings.WMARKColorGTicket=.5 "
+                                    "com.orvane.dlg.printsettings.WMARKColorBTicket=.9 "
+                                    "com.orvane.dlg.printsettings.WMARKDensityTicket=" +
+                                    std::to_string(density);
+        const char *const argv[] = {"filter", "1", "taro", "Report", "1", tickets.c_str(), nullptr};
+        WatermarkGetTicketFromPDE(argv);
+        const std::string begin =
+            std::string("wqwpgsave restore /wqwpgsave save store gsave\n") + colour + " setrgbcolor\n";
+        const auto print = [] { WatermarkOutputPSCommandFromFilter(kEventEndPageOfFilter, 1, stdout); };
+        EXPECT_EQ(Printed(print).substr(0, begin.size()), begin);
+        EXPECT_EQ(Printed(print), ""); // the first page is the only one
     }
 }
