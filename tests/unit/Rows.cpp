@@ -47,6 +47,8 @@ std::vector<Row> Rows(const std::string &table)
     int number = 0;
     for (std::string line; std::getline(file, line);) {
         number++;
+        for (std::string rest; line.ends_with(" \\") && std::getline(file, rest); number++)
+            line.replace(line.size() - 1, 1, rest);
         const size_t arrow = line.find("=>");
         if (!line.empty() && line[0] != '#')
             rows.push_back(
