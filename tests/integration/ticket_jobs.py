@@ -1,6 +1,6 @@
 """Jobs through queues whose PPD says what its choices mean, against the same jobs with the tickets themselves.
 
-usage: ticket_jobs.py FILTER FILTER-THAT-KEEPS-A-COPY STOREPASSWORD PPD-FOLDER TEST-DATA DOCUMENT
+usage: ticket_jobs.py FILTER FILTER-THAT-KEEPS-A-COPY ORVANE-JOB PPD-FOLDER TEST-DATA DOCUMENT
 """
 
 import os
@@ -11,7 +11,7 @@ import sys
 import tempfile
 import unittest
 
-FILTER, COPYING_FILTER, STOREPASSWORD, PPDS, DATA, DOCUMENT = sys.argv[1:7]
+FILTER, COPYING_FILTER, TOOL, PPDS, DATA, DOCUMENT = sys.argv[1:7]
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "jobs"))
 
 from blobs import Blob
@@ -130,7 +130,8 @@ class Jobs(unittest.TestCase):
         self.assertEqual(*shown)
 
     def stored(self, password):
-        return subprocess.run([STOREPASSWORD], input=password, capture_output=True, text=True, check=True).stdout.strip()
+        return subprocess.run([TOOL, "password"], input=password, capture_output=True, text=True,
+                              check=True).stdout.strip()
 
     def tickets(self, *tickets):
         return [TICKET + ticket for ticket in tickets]

@@ -15,10 +15,11 @@ static std::string Cut(std::string_view text)
 
 static std::string Between(std::string_view text, std::string_view before, std::string_view after)
 {
-    const size_t begin = text.find(before);
-    return begin == text.npos
-               ? ""
-               : Cut(text.substr(begin + before.size(), text.find(after, begin) - begin - before.size()));
+    const size_t found = text.find(before);
+    if (found == text.npos)
+        return {};
+    text.remove_prefix(found + before.size());
+    return Cut(text.substr(0, text.find(after)));
 }
 
 // Comments count where they first stand: what is embedded further on has its own.
@@ -50,6 +51,17 @@ static void TakeInjection(DocumentFacts &facts, std::string_view line)
     else if (facts.inWatermark && line.ends_with(" show")) {
         facts.watermark = Cut(line.substr(0, line.size() - 5));
         facts.watermarksDrawn++;
+    }
+    if (line == "systemdict begin currentglobal mark{")
+        facts.inEndPage = true;
+    if (facts.inEndPage && line.starts_with('(') && !line.ends_with("findfont"))
+        facts.watermark = Cut(line);
+    for (const auto &[code, pages] :
+         {std::pair("wqwDue true put}if", "every page"), {"wqwDue false put}if", "the first page"}}) {
+        if (facts.inEndPage && line.find(code) != line.npos) {
+            facts.watermarkPages = pages;
+            facts.inEndPage = false;
+        }
     }
     if (line.find("/setcoverseparator ") != line.npos)
         facts.separatorPages = Between(line, "/SeparatorPages[", "]");
@@ -99,9 +111,11 @@ std::vector<std::pair<std::string, std::string>> FactsInWords(const DocumentFact
     add("producer", facts.creator);
     add("pages", facts.pagesDeclared.empty() ? "not declared" : facts.pagesDeclared);
     add("page comments", std::to_string(facts.pageComments));
-    add("pages in the log", std::to_string(facts.pagesEnded));
-    if (facts.watermarksDrawn)
-        add("watermark", facts.watermark + ", drawn " + std::to_string(facts.watermarksDrawn) + " times");
+    add("pages ended by ep", std::to_string(facts.pagesEnded));
+    if (!facts.watermarkPages.empty())
+        add("watermark", facts.watermark + ", drawn by the printer on " + facts.watermarkPages);
+    else if (facts.watermarksDrawn)
+        add("watermark", facts.watermark + ", pages: " + std::to_string(facts.watermarksDrawn));
     add("separator pages", facts.separatorPages);
     add("image shift", facts.imageShift.empty() ? "" : facts.imageShift + " mm");
     add("auto-fit", facts.autoScale == "true" ? "on" : facts.autoScale == "false" ? "off" : facts.autoScale);

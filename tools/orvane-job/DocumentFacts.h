@@ -20,9 +20,10 @@ struct DocumentFacts {
     std::string duplexCode;                                    // of a document that sets duplex on its own
     std::string watermark, separatorPages, imageShift, autoScale;
     uint64_t watermarksDrawn = 0;
+    std::string watermarkPages;           // of a watermark that the printer draws
     std::vector<std::string> screenLines; // of code that sets screens and curves, the first of them
 
-    bool inWatermark = false; // while it is read
+    bool inWatermark = false, inEndPage = false; // the code that draws it, while it is read
 };
 
 // Takes note of a line, without its end.

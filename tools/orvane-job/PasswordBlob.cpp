@@ -18,6 +18,7 @@ static constexpr size_t kPayloadLengthAt = 2;
 static constexpr size_t kTotalLengthAt = 6;
 static constexpr size_t kModeAt = 10;
 static constexpr size_t kKeyTypeAt = 11;
+static constexpr size_t kReservedAt = 12;
 static constexpr size_t kIdentifierAt = 16;
 static constexpr size_t kSaltAt = 48;
 static constexpr size_t kSecretAt = 80;
@@ -26,9 +27,6 @@ static constexpr size_t kModeCBC = 1;
 
 // The secret's length for each key type.
 static constexpr size_t kSecretBytes[] = {256, 384};
-
-// What every blob begins with, as base64.
-static constexpr std::string_view kBlobBegins = "CAE";
 
 void PrivateKeyCloser::operator()(evp_pkey_st *key) const
 {
@@ -57,7 +55,8 @@ struct Blob {
 
 static bool TakeApart(Bytes bytes, Blob &blob)
 {
-    if (bytes.size() < kSecretAt || bytes[kModeAt] != kModeCBC || bytes[kKeyTypeAt] >= std::size(kSecretBytes))
+    if (bytes.size() < kSecretAt || bytes[kModeAt] != kModeCBC || LittleEndian(bytes, kReservedAt) != 0 ||
+        bytes[kKeyTypeAt] >= std::size(kSecretBytes))
         return false;
     const size_t secret = kSecretBytes[bytes[kKeyTypeAt]];
     const uint32_t payload = LittleEndian(bytes, kPayloadLengthAt);
@@ -101,11 +100,17 @@ static bool Open(const Blob &blob, EVP_PKEY *key, std::string &text)
     return true;
 }
 
+// The format and version bytes, 8 and 1, as base64; two bits of its third character belong to the length after them.
+static bool BeginsBlob(std::string_view value)
+{
+    return value.size() > 2 && value.starts_with("CA") && value[2] >= 'E' && value[2] <= 'H';
+}
+
 Password ReadPassword(std::string_view value, evp_pkey_st *key)
 {
     std::vector<unsigned char> bytes;
     Blob blob;
-    if (!value.starts_with(kBlobBegins))
+    if (!BeginsBlob(value))
         return {.text = std::string(value)};
     if (!PlatformBase64Decode(value, bytes) || !TakeApart(bytes, blob))
         return {.state = PasswordState::Damaged};

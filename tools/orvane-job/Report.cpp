@@ -43,9 +43,19 @@ static bool BeginsCharacter(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
 }
 
+// Characters from U+3000 to U+DFFF, East Asian ones, are two columns wide.
+static size_t ColumnsOf(char byte)
+{
+    const unsigned char code = static_cast<unsigned char>(byte);
+    return code >= 0xE3 && code <= 0xED ? 2 : BeginsCharacter(byte);
+}
+
 static size_t Columns(std::string_view text)
 {
-    return static_cast<size_t>(std::ranges::count_if(text, BeginsCharacter));
+    size_t columns = 0;
+    for (const char byte : text)
+        columns += ColumnsOf(byte);
+    return columns;
 }
 
 static std::string Shortened(std::string_view text, size_t columns)
@@ -53,11 +63,9 @@ static std::string Shortened(std::string_view text, size_t columns)
     if (Columns(text) <= columns)
         return std::string(text);
     size_t length = 0;
-    for (size_t seen = 0; seen + 3 <= columns; length++)
-        seen += BeginsCharacter(text[length]);
-    while (length > 0 && !BeginsCharacter(text[length]))
-        length--;
-    return std::string(text.substr(0, length > 0 ? length - 1 : 0)) + "...";
+    for (size_t seen = 3; seen + ColumnsOf(text[length]) <= columns; length++)
+        seen += ColumnsOf(text[length]);
+    return std::string(text.substr(0, length)) + "...";
 }
 
 // Lines break at blanks; a word that is longer than the line stays in one piece.
@@ -111,6 +119,11 @@ static void PrintRemarks(const Paper &paper, const std::vector<std::string> &rem
         printf("  and %zu more\n", remarks.size() - kMaxRemarks);
 }
 
+static void PrintLine(const Paper &paper, char mark, const ExplainedLine &line)
+{
+    PrintEntry(paper, mark, line.brief, line.trouble.empty() ? line.words : line.trouble);
+}
+
 static void PrintGroup(const Paper &paper, const std::string &group, const Explanation &explanation)
 {
     bool isFirst = true;
@@ -121,7 +134,7 @@ static void PrintGroup(const Paper &paper, const std::string &group, const Expla
             PrintHeading(paper, group.empty() ? "Not explained" : group);
         isFirst = false;
         const bool isMarked = line.remarkable || !line.known || !line.trouble.empty();
-        PrintEntry(paper, isMarked ? '!' : ' ', line.brief, line.trouble.empty() ? line.words : line.trouble);
+        PrintLine(paper, isMarked ? '!' : ' ', line);
     }
 }
 
@@ -203,25 +216,27 @@ static std::vector<const ExplainedLine *> Missing(const Explanation &one, const 
     return missing;
 }
 
-static size_t PrintOneSide(const Paper &paper, char mark, const Explanation &one, const Explanation &other)
+// What the document of `one` has that the other's has not.
+static std::vector<std::pair<std::string, std::string>> MissingFacts(const Explanation &one, const Explanation &other)
 {
-    size_t count = 0;
-    for (const ExplainedLine *line : Missing(one, other)) {
-        PrintEntry(paper, mark, line->brief, line->trouble.empty() ? line->words : line->trouble);
-        count++;
-    }
-    const auto facts = FactsInWords(one.job.document);
-    const auto otherFacts = FactsInWords(other.job.document);
-    for (const auto &fact : facts) {
-        if (std::ranges::find(otherFacts, fact) != otherFacts.end())
-            continue;
-        PrintEntry(paper, mark, "document: " + fact.first, Readable(fact.second, true));
-        count++;
-    }
-    return count;
+    std::vector<std::pair<std::string, std::string>> facts = FactsInWords(one.job.document);
+    const auto there = FactsInWords(other.job.document);
+    std::erase_if(facts, [&there](const auto &fact) { return std::ranges::find(there, fact) != there.end(); });
+    return facts;
 }
 
-bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanation &other)
+static size_t PrintOneSide(const Paper &paper, char mark, const Explanation &one, const Explanation &other)
+{
+    const auto lines = Missing(one, other);
+    const auto facts = MissingFacts(one, other);
+    for (const ExplainedLine *line : lines)
+        PrintLine(paper, mark, *line);
+    for (const auto &[name, text] : facts)
+        PrintEntry(paper, mark, "document: " + name, Readable(text, true));
+    return lines.size() + facts.size();
+}
+
+bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanation &other, bool withKey)
 {
     size_t count = PrintOneSide(paper, '<', one, other) + PrintOneSide(paper, '>', other, one);
     if (one.job.document.digest != other.job.document.digest) {
@@ -232,9 +247,30 @@ bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanat
         printf("Only the %s job is whole.\n", one.whole ? "first" : "second");
         count++;
     }
-    if (count == 0 && std::ranges::any_of(one.lines, [](const ExplainedLine &line) { return !line.secret.empty(); }))
-        puts("The jobs say the same; without --key, passwords are compared by their length only.");
-    else if (count == 0)
-        puts("The jobs say the same.");
+    if (count == 0)
+        printf("The jobs say the same%s.\n",
+               withKey ? "" : "; without --key, passwords are compared by their length only");
     return count != 0;
+}
+
+size_t PrintGains(const Paper &paper, const Explanation &with, const Explanation &without)
+{
+    const auto lines = Missing(with, without);
+    size_t count = lines.size();
+    for (const ExplainedLine *line : lines)
+        PrintLine(paper, line->trouble.empty() ? ' ' : '!', *line);
+    for (const ExplainedLine *line : Missing(without, with)) {
+        if (std::ranges::any_of(lines, [line](const ExplainedLine *gained) { return gained->name == line->name; }))
+            continue;
+        PrintEntry(paper, '-', line->brief, "left out because of it");
+        count++;
+    }
+    for (const auto &[name, text] : MissingFacts(with, without)) {
+        if (name == "size")
+            continue;
+        PrintEntry(paper, ' ', name == "feature" ? Readable(text, true) : name,
+                   name == "feature" ? "the PPD's code in the document" : Readable(text, true));
+        count++;
+    }
+    return count;
 }

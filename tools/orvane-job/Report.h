@@ -23,5 +23,8 @@ void PrintHeading(const Paper &paper, std::string_view text);
 void PrintExplanation(const Paper &paper, const std::string &name, const Explanation &explanation);
 void PrintJSON(const std::string &name, const Explanation &explanation);
 
-// Says what differs between two jobs. Returns whether anything does.
-bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanation &other);
+// Says what differs between two jobs; withKey: whether passwords were opened. Returns whether anything does.
+bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanation &other, bool withKey);
+
+// Says what a job has that it would not have without an option, and what it then lacks. Returns how much that is.
+size_t PrintGains(const Paper &paper, const Explanation &with, const Explanation &without);

@@ -146,5 +146,5 @@ int DiffCommand(int argc, char **argv)
     Explanation one, other;
     if (!Explain(argv[optind], arguments, one) || !Explain(argv[optind + 1], arguments, other))
         return kTrouble;
-    return PrintDifferences(PaperOfStandardOutput(), one, other) ? kDifferent : kFine;
+    return PrintDifferences(PaperOfStandardOutput(), one, other, arguments.key != nullptr) ? kDifferent : kFine;
 }

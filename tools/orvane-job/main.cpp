@@ -11,11 +11,15 @@ static const struct {
 } commands[] = {
     {"show", ShowCommand},
     {"diff", DiffCommand},
+    {"password", PasswordCommand},
+    {"options", OptionsCommand},
 };
 
 static const char kUsage[] =
     "Usage: orvane-job show [--key FILE [--reveal]] [--postscript FILE] [--json | --check] [JOB]\n"
     "       orvane-job diff [--key FILE] JOB JOB\n"
+    "       orvane-job password < PASSWORD\n"
+    "       orvane-job options QUEUE-OR-PPD 'OPTIONS'\n"
     "       orvane-job --version | --help\n"
     "Explains the jobs that pstoorvane makes. See orvane-job(1).\n";
 
@@ -24,7 +28,7 @@ int main(int argc, char **argv)
     // A core file would hold passwords.
     const struct rlimit none = {0, 0};
     setrlimit(RLIMIT_CORE, &none);
-    int status = kTrouble;
+    int status = kWrongUsage;
     if (argc == 2 && strcmp(argv[1], "--version") == 0)
         status = puts("orvane-job " OV_VERSION) < 0;
     else if (argc == 2 && strcmp(argv[1], "--help") == 0)
@@ -33,7 +37,7 @@ int main(int argc, char **argv)
         for (const auto &command : commands)
             if (argc > 1 && strcmp(argv[1], command.name) == 0)
                 status = command.run(argc - 1, argv + 1);
-        if (status == kWrongUsage || argc < 2)
+        if (status == kWrongUsage)
             fputs(kUsage, stderr);
     }
     if (fflush(stdout) != 0 || ferror(stdout)) {
