@@ -45,13 +45,13 @@ class Docs(unittest.TestCase):
             kind, words = line.split(" ", 1)
             self.read.setdefault(kind, []).append(words)
         for ppd in map(contents, PPDS):
+            # What is installed concerns constraints alone.
+            ppd = re.sub(r"^\*OpenGroup: InstallableOptions.*?^\*CloseGroup", "", ppd, flags=re.M | re.S)
             self.attributes.update(re.findall(r"^\*(\w+)", ppd, re.M))
             for option, given in re.findall(r'^\*OVTicket ([^.:]+)[^:]*: "([^"]*)"', ppd, re.M):
                 self.triggers.add(option)
                 names = re.findall(r"(?:^| )([^ =']+)=", given)
                 self.given.update(full_name(re.sub(r"(ZPIF.*)\d$", r"\1<n>", name)) for name in names)
-            # What is installed is asked by constraints alone.
-            ppd = re.sub(r"^\*OpenGroup: InstallableOptions.*?^\*CloseGroup", "", ppd, flags=re.M | re.S)
             for option in re.findall(r"^\*(?:JCL)?OpenUI \*(\w+)", ppd, re.M):
                 found = re.findall(rf"^\*{option} ([^/:]+)", ppd, re.M)
                 self.choices.setdefault(option, set()).update(found)
