@@ -9,7 +9,7 @@ import subprocess
 import sys
 import unittest
 
-from private_cups import PrivateCups, Printer, wait_for
+from private_cups import PrivateCups, Printer, wait_for, without_collate
 
 FILTER, PPD = sys.argv[1:]
 GROFF = b".ps 24\n" + b"\n.bp\n".join(b"Page %d" % n for n in (1, 2, 3)) + b"\n"
@@ -21,13 +21,19 @@ TRUTH = [
     ("three.txt", "", 3, 1), ("image.ppm", "", 1, 1),
     ("three.pdf", "sides=two-sided-long-edge", 3, 1), ("three.ps", "sides=two-sided-long-edge", 3, 1),
     ("three.pdf", "number-up=2", 2, 1), ("three.ps", "number-up=2", 2, 1), ("three.ps", "number-up=4", 1, 1),
-    ("three.ps", "copies=3", 3, 3), ("three.ps", "copies=3 Collate=True", 9, 1),
-    ("three.ps", "copies=3 collate=true sides=two-sided-long-edge", 12, 1),  # with the blank side of each copy
+    ("three.ps", "copies=3", 3, 3), ("three.ps", "copies=3 Collate=True", 3, 3),
+    ("three.ps", "copies=3 collate=true sides=two-sided-long-edge", 3, 3),
     ("three.pdf", "copies=3", None, 9), ("three.pdf", "copies=3 Collate=True", None, 9),
     ("three.txt", "copies=2", None, 6), ("image.ppm", "copies=4", None, 4),
     ("three.ps", "page-ranges=2-3", 2, 1), ("three.pdf", "page-ranges=2-3", 2, 1),
     ("three.pdf", "page-ranges=1,3", 2, 1),
     ("three.ps", "outputorder=reverse", 3, 1), ("three.pdf", "outputorder=reverse", 3, 1),
+]
+# A printer that can't collate gets each copy by itself.
+TRUTH_WITHOUT_COLLATE = [
+    ("three.ps", "copies=3", 3, 3), ("three.ps", "copies=3 Collate=True", 9, 1),
+    ("three.ps", "copies=3 collate=true sides=two-sided-long-edge", 12, 1),  # with the blank side of each copy
+    ("three.pdf", "copies=3 Collate=True", None, 9),
 ]
 
 
@@ -41,6 +47,7 @@ class PageLog(unittest.TestCase):
         cls.printer = Printer()
         cls.cups = cls.enterClassContext(PrivateCups(FILTER))
         cls.cups.add_queue("office", PPD, cls.printer)
+        cls.cups.add_queue("uncollated", without_collate(PPD, cls.cups.path("uncollated.ppd")), cls.printer)
         pdf = lambda source: made("gs", "-q", "-sDEVICE=pdfwrite", "-o", "-", "-", data=source)
         three, one = made("groff", "-Tps", data=GROFF), made("groff", "-Tps", data=b"Page\n")
         for name, content in (("one.ps", one), ("three.ps", three), ("one.pdf", pdf(one)), ("three.pdf", pdf(three)),
@@ -59,10 +66,11 @@ class PageLog(unittest.TestCase):
         return pages
 
     def test_truth(self):
-        jobs = [self.cups.lp("office", self.cups.path(name), "Report", options.split())
-                for name, options, _, _ in TRUTH]
-        for job, (name, options, pages, copies) in zip(jobs, TRUTH):
-            with self.subTest(document=name, options=options):
+        rows = [("office", *row) for row in TRUTH] + [("uncollated", *row) for row in TRUTH_WITHOUT_COLLATE]
+        jobs = [self.cups.lp(queue, self.cups.path(name), "Report", options.split())
+                for queue, name, options, _, _ in rows]
+        for job, (queue, name, options, pages, copies) in zip(jobs, rows):
+            with self.subTest(queue=queue, document=name, options=options):
                 self.cups.wait_done(job)
                 logged = self.logged(job)
                 if pages is None:  # who makes the copies of these is the other filters' affair; the sum is not

@@ -2,6 +2,7 @@
 
 import os
 import pwd
+import re
 import shutil
 import socket
 import subprocess
@@ -18,6 +19,15 @@ def wait_for(condition, what):
         if time.monotonic() > end:
             raise TimeoutError(f"waited {BOUND} seconds for {what}")
         time.sleep(0.05)
+
+
+def without_collate(ppd, path):
+    """Writes a PPD without the option Collate, of a printer that can't; returns its path."""
+    with open(ppd, encoding="utf-8") as file:
+        text = re.sub(r"\*OpenUI \*Collate.*?\*CloseUI: \*Collate\n", "", file.read(), flags=re.S)
+    with open(path, "w", encoding="utf-8") as file:
+        file.write(text)
+    return path
 
 
 class Printer:

@@ -13,6 +13,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
+from private_cups import without_collate
+
 FILTER, PPD, *KEEP = sys.argv[1:]
 DPI = 20
 MARK = {"Name": "a", "Type": 0, "OnlyFirst": 0, "Text": "(DRAFT)", "Font": "Helvetica-Bold", "FontSize": 90,
@@ -80,13 +82,13 @@ class RenderedDocuments(unittest.TestCase):
             expected = over(before, mark_of(mark(size))) if size else before
             self.assertTrue(after == expected, f"page {number}")
 
-    def laid_out(self, document, kind, *options):
+    def laid_out(self, document, kind, *options, ppd=PPD):
         with tempfile.NamedTemporaryFile() as file:
             file.write(document)
             file.flush()
             os.chmod(file.name, 0o644)
             arguments = [word for option in options for word in ("-o", option)]
-            return run("cupsfilter", "-p", PPD, "-m", "application/vnd.cups-postscript", "-e", "-i",
+            return run("cupsfilter", "-p", ppd, "-m", "application/vnd.cups-postscript", "-e", "-i",
                        f"application/{kind}", *arguments, file.name)
 
     @functools.cached_property
@@ -115,7 +117,8 @@ class RenderedDocuments(unittest.TestCase):
         """Collated copies of three pages on both sides, in reversed order: the fourth side is blank."""
         reverse = ("copies=2", "Collate=True", "sides=two-sided-long-edge", "outputorder=reverse")
         groff = self.producers[0][3]
-        laid_out = self.laid_out(groff, "postscript", *reverse)
+        with tempfile.NamedTemporaryFile() as ppd:
+            laid_out = self.laid_out(groff, "postscript", *reverse, ppd=without_collate(PPD, ppd.name))
         self.check(laid_out, [None, A4, A4, A4] * 2)
         self.check(laid_out, [None, A4] + [None] * 6, MARK | {"OnlyFirst": 1})
         self.check(self.laid_out(groff, "postscript", "copies=2"), [A4] * 6)
