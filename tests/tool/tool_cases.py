@@ -123,6 +123,7 @@ class damaged(Tool):
             self.assertEqual(done.returncode, 0 if done.stdout else 2)
             self.assertIn(b"standard input: ", done.stderr or done.stdout)
             self.assertTrue(done.stderr or b"Worth a look" in done.stdout, job[:length])
+            self.assertNotIn(b": a whole job", done.stdout)
 
     def test_noise_is_read_to_its_end(self):
         noise = bytes(range(256)) * 40
@@ -135,6 +136,8 @@ class damaged(Tool):
                 self.assertFalse(re.search(rb"[\0-\x09\x0b-\x1f\x7f]", done.stdout + done.stderr))
                 if arguments[-1] == "--json" and done.returncode == 0:
                     json.loads(done.stdout)
+        many = UEL + 9000 * b"@PJL SET RET=ON\n"
+        self.assertIn(b"7000 further lines are not shown", self.run_tool("show", data=many).stdout)
 
 
 class calls(Tool):
@@ -174,7 +177,7 @@ class calls(Tool):
         for no_key in ("held", "/", "none"):
             self.assertIn(b"not a private RSA key", self.run_tool("show", "--key", no_key, "held", status=2).stderr)
         blob = re.search(b'HOLDENCRYPTKEY="([^"]*)"', (self.folder / "held").read_bytes())[1]
-        for place in (20, 40, 60):  # key identifier
+        for place in (4, 10, 20, 40, 60):  # lengths, reserved bytes, key identifier
             changed = blob[:place] + (b"A" if blob[place:place + 1] != b"A" else b"B") + blob[place + 1:]
             job = (self.folder / "held").read_bytes().replace(blob, changed)
             self.assertIn(b"encrypted for another key than this build's" if 22 <= place < 64 else b"damaged",
@@ -233,6 +236,8 @@ class calls(Tool):
     @unittest.skipUnless(os.path.exists("/dev/full"), "no full device")
     def test_a_full_disk_is_an_error(self):
         self.job("job", "")
+        told = self.run_tool("show", "--postscript", "/dev/full", "job", status=2)
+        self.assertEqual((told.stdout, told.stderr), (b"", b"orvane-job: /dev/full: cannot be written\n"))
         for arguments in (["password"], ["show", "job"], ["show", "--json", "job"], ["show", "--postscript", "/dev/full", "job"],
                           ["diff", "job", "job"], ["options", SAMPLES / "office.ppd", "a=b"], ["--help"], ["--version"]):
             with open("/dev/full", "wb") as full:

@@ -114,8 +114,6 @@ static void LookAtLines(const Explanation &explanation, std::vector<std::string>
     if (ValueOf(explanation, "JOB MODE") != "PRINTER")
         remarks.push_back(
             "no \"@PJL JOB MODE=PRINTER\", with which every job of this filter begins: another program's");
-    if (explanation.job.linesLeftOut)
-        remarks.push_back(std::to_string(explanation.job.linesLeftOut) + " further lines are not shown");
 }
 
 static void LookAtFrame(const Job &job, std::vector<std::string> &remarks)
@@ -149,6 +147,8 @@ static void LookAtFrame(const Job &job, std::vector<std::string> &remarks)
     if (job.bytesAfter)
         remarks.push_back(bytes(job.bytesAfter) + " after the end of the job" +
                           (job.anotherFollows ? ", which hold another job" : ""));
+    if (job.linesLeftOut)
+        remarks.push_back(std::to_string(job.linesLeftOut) + " further lines are not shown");
     if (job.isSpooledCopy)
         remarks.push_back("a job copy of spooled mode: the document stands among the last lines of the header");
 }
