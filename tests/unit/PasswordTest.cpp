@@ -6,8 +6,14 @@
 #include "secblobenc-sender.h"
 #include "secblobenc.h"
 
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <new>
 #include <openssl/evp.h>
+#include <openssl/hmac.h>
 #include <openssl/rand.h>
+#include <pthread.h>
 #include <unistd.h>
 
 static const char secret[] = "uvShStrPqbe+e1Ldn4EVdg=="; // "secret" as it is stored
@@ -33,6 +39,79 @@ TEST(Password, WhatIsNoStoredOneStaysAsItIs)
         EXPECT_EQ(std::string(field.begin(), field.end()), text + std::string(field.size() - text.size(), '\0'));
         return {std::to_string(present), text, messages};
     });
+}
+
+// What is looked for in every block that is freed, and how often it was there.
+static std::string_view lookedFor;
+static int found;
+
+[[gnu::noinline]] void *operator new(size_t size)
+{
+    void *const block = malloc(size);
+    return block ? block : throw std::bad_alloc();
+}
+
+[[gnu::noinline]] void operator delete(void *block) noexcept
+{
+    free(block);
+}
+
+[[gnu::noinline]] void operator delete(void *block, size_t size) noexcept
+{
+    if (!lookedFor.empty() && std::string_view(static_cast<char *>(block), size).find(lookedFor) != std::string::npos)
+        found++;
+    free(block);
+}
+
+static const char password[] = "a password of some length, so that nothing else looks like it";
+
+static void *ReadStored(void *)
+{
+    auto sent = Buffer(kEncryptedPasswordSize);
+    EXPECT_EQ(Get(StorePassword(password), sent), 1);
+    return nullptr;
+}
+
+static uint32_t stored = 99;
+
+static void *UseStorageKey(void *)
+{
+    volatile char depth[1 << 16]; // what runs later does not come so far down
+    depth[0] = 0;
+    static_cast<void>(depth[0]);
+    unsigned char out[16];
+    uint32_t length = sizeof out;
+    stored = Encode_Storage("secret", 6, seed1, sizeof seed1, seed2, sizeof seed2, seed3, sizeof seed3, out, &length);
+    return nullptr;
+}
+
+// Runs on a stack of the test's own, so that what is left there can be looked at.
+TEST(Password, LeavesNoSecretBehind)
+{
+    constexpr size_t stackSize = 1 << 20;
+    unsigned char key[32];
+    HMAC(EVP_sha256(), seed1, sizeof seed1, seed2, sizeof seed2, key, nullptr);
+    const struct {
+        void *(*call)(void *);
+        std::string_view wanted;
+    } cases[] = {{ReadStored, password}, {UseStorageKey, {reinterpret_cast<const char *>(key), sizeof key}}};
+    for (const auto &[call, wanted] : cases) {
+        const std::unique_ptr<char, decltype(&free)> stack(static_cast<char *>(aligned_alloc(4096, stackSize)), free);
+        memset(stack.get(), 0, stackSize);
+        pthread_attr_t attributes;
+        pthread_attr_init(&attributes);
+        pthread_attr_setstack(&attributes, stack.get(), stackSize);
+        pthread_t thread;
+        lookedFor = wanted;
+        found = 0;
+        ASSERT_EQ(pthread_create(&thread, &attributes, call, nullptr), 0);
+        pthread_join(thread, nullptr);
+        pthread_attr_destroy(&attributes);
+        lookedFor = {};
+        EXPECT_EQ(found, 0);
+        EXPECT_EQ(std::string_view(stack.get(), stackSize).find(wanted), std::string::npos);
+    }
+    EXPECT_EQ(stored, 0u);
 }
 
 TEST(SecureBlob, TransportReportsTheStepThatFailed)
