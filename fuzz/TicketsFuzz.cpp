@@ -67,7 +67,7 @@ static void CheckDocument(std::string_view text)
         const std::string_view line = text.substr(0, text.find('\n'));
         if (line.ends_with(" show")) {
             const std::string_view string = line.substr(0, line.size() - 5);
-            Require(string.size() >= 2 && string.front() == '(' && string.find_first_of(")") == string.size() - 1 &&
+            Require(string.size() >= 2 && string.front() == '(' && string.find(')') == string.size() - 1 &&
                     string.find('(', 1) == string.npos);
             for (size_t i = string.find('\\'); i != string.npos; i = string.find('\\', i + 1))
                 Require(i + 4 < string.size() && string.find_first_not_of("01234567", i + 1) >= i + 4);
