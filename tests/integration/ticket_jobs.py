@@ -218,10 +218,12 @@ class Secrets(unittest.TestCase):
             # A job that is cancelled leaves its spool file, so that it can be looked at.
             job.stdin.write(b"%!PS\nep\n")
             job.stdin.flush()
-            wait_for(lambda: b"PAGE:" in os.read(job.stderr.fileno(), 100), "the first page")
+            messages = bytearray()
+            wait_for(lambda: messages.extend(os.read(job.stderr.fileno(), 4096)) or b"PAGE:" in messages, "the first page")
             job.send_signal(signal.SIGTERM)
             job.stdin.write(b"ep\n" * 100)
-            output, messages = job.communicate()
+            output, rest = job.communicate()
+            messages += rest
             os.remove(ppd)
             files = [os.path.join(folder, name) for name in os.listdir(folder)]
             self.assertEqual(len(files), 2, files)  # the job copy and the spool file
