@@ -3,6 +3,8 @@
 
 #include "TestPPD.h"
 
+#include <utility>
+
 TEST(PPDLookup, FirstAttributeWhoseNameBeginsSo)
 {
     const TestPPD ppd("*OVPSDecompModeLater: \"1\"\n*OVPSDecompMode: \"2\"\n*Empty: \"\"\n*ColorDevice: True\n");
@@ -38,5 +40,26 @@ TEST(PPDLookup, AnotherPPDGivesOtherAnswers)
     legacy.Use();
     EXPECT_EQ(IsColorDeivce(), 1);
     EXPECT_FALSE(IsUTF8Mode());
+    CloseJobPPD();
+}
+
+TEST(PPDLookup, SizesForBindingStandBeforePageSizes)
+{
+    const TestPPD ppd(
+        "*OVPageSize B5: \"516 729.9\"\n*OVPageSize B4: \"729\"\n*OVPageSize A3: \"big\"\n"
+        "*OVPageSizes A4: \"1 2\"\n*OVPageSize A40: \"3 4\"\n"
+        "*OpenUI *PageSize/Page: PickOne\n*DefaultPageSize: A4\n*PageSize A4: \"\"\n*PageSize A3: \"\"\n"
+        "*PageSize B5: \"\"\n*CloseUI: *PageSize\n"
+        "*PaperDimension A4: \"595 842\"\n*PaperDimension A3: \"842 1191\"\n*PaperDimension B5: \"1 1\"\n");
+    const auto size = [](const char *name) {
+        float width, length;
+        const bool defined = PPDPageSizeInPoints(name, width, length);
+        EXPECT_EQ(defined, width != 0 && length != 0);
+        return std::pair(width, length);
+    };
+    EXPECT_EQ(size("B5"), std::pair(516.0F, 729.0F));
+    EXPECT_EQ(size("A4"), std::pair(595.0F, 842.0F));
+    EXPECT_EQ(size("A3"), std::pair(842.0F, 1191.0F)); // the attribute says no size
+    EXPECT_EQ(size("B4"), std::pair(0.0F, 0.0F));      // half of one
     CloseJobPPD();
 }

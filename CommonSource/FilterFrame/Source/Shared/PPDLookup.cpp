@@ -138,6 +138,15 @@ std::vector<PPDDefault> PPDDefaults()
 
 bool PPDPageSizeInPoints(const char *name, float &width, float &length)
 {
+    for (const PPDAttribute &size : PPDAttributes("OVPageSize")) {
+        if (strcmp(size.keyword, name) != 0)
+            continue;
+        char *end = nullptr;
+        width = static_cast<float>(strtol(size.value, &end, 10));
+        length = static_cast<float>(strtol(end, nullptr, 10));
+        if (width > 0 && length > 0)
+            return true;
+    }
     const ppd_size_t *size = JobPPD() ? ppdPageSize(JobPPD(), name) : nullptr;
     width = size ? size->width : 0;
     length = size ? size->length : 0;

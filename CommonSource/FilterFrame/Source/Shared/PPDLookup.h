@@ -64,7 +64,8 @@ struct PPDDefault {
 };
 std::vector<PPDDefault> PPDDefaults();
 
-// The size of a page of the queue's PPD, in points. Returns false, with both 0, when the PPD doesn't define it.
+// The size of a page in points: what an attribute OVPageSize of that name says in whole numbers, width and length, else
+// the queue's page size of that name. Returns false, with both 0, when the PPD doesn't define it.
 bool PPDPageSizeInPoints(const char *name, float &width, float &length);
 
 // 1 for a colour printer, else 0.
