@@ -69,7 +69,7 @@ static bool BeginsWithoutCase(std::string_view text, std::string_view beginning)
 }
 
 // A row: the option and, unless it holds for every value, the choice that it is for; the options that it gives.
-struct Row {
+struct PPDRow {
     std::string_view option;
     std::optional<std::string_view> choice;
     const char *given;
@@ -91,13 +91,13 @@ struct Completion {
     std::map<std::string, std::string, WithoutCase> added;
 };
 
-static std::vector<Row> RowsOfPPD()
+static std::vector<PPDRow> RowsOfPPD()
 {
-    std::vector<Row> rows;
+    std::vector<PPDRow> rows;
     for (const PPDAttribute &attribute : PPDAttributes(kTicketAttribute)) {
         const std::string_view keyword = attribute.keyword;
         const size_t dot = keyword.find('.');
-        Row row = {keyword.substr(0, dot), {}, attribute.value};
+        PPDRow row = {keyword.substr(0, dot), {}, attribute.value};
         if (dot != keyword.npos)
             row.choice = keyword.substr(dot + 1);
         rows.push_back(row);
@@ -117,7 +117,7 @@ static void AddSetting(Settings &settings, const char *option, const char *value
     settings.insert({option, {option, value, hasCustomChoice, hasCustomChoice && !IsChoice(option, value)}});
 }
 
-static bool IsFor(const Row &row, const Setting &setting)
+static bool IsFor(const PPDRow &row, const Setting &setting)
 {
     if (!row.choice || EqualWithoutCase(*row.choice, setting.value))
         return true;
@@ -126,7 +126,7 @@ static bool IsFor(const Row &row, const Setting &setting)
 }
 
 // The value, of a custom choice what was typed.
-static std::string_view TypedText(const Row &row, const Setting &setting)
+static std::string_view TypedText(const PPDRow &row, const Setting &setting)
 {
     const std::string_view value = setting.value;
     if (!setting.hasCustomChoice && !(row.choice && EqualWithoutCase(*row.choice, kCustomChoice)))
@@ -264,7 +264,7 @@ static std::optional<std::string> Filled(std::string_view name, std::string_view
     return replaced && filled.starts_with('/') ? AsByteValues(filled) : filled;
 }
 
-static void AddGiven(Completion &completion, const Row &row, const Setting &setting)
+static void AddGiven(Completion &completion, const PPDRow &row, const Setting &setting)
 {
     cups_option_t *given = nullptr;
     const int count = cupsParseOptions(row.given, 0, &given);
@@ -280,9 +280,9 @@ static void AddGiven(Completion &completion, const Row &row, const Setting &sett
     cupsFreeOptions(count, given);
 }
 
-static void AddRowsFor(Completion &completion, const std::vector<Row> &rows, const Settings &settings)
+static void AddRowsFor(Completion &completion, const std::vector<PPDRow> &rows, const Settings &settings)
 {
-    for (const Row &row : rows) {
+    for (const PPDRow &row : rows) {
         const auto setting = settings.find(row.option);
         if (setting != settings.end() && IsFor(row, setting->second))
             AddGiven(completion, row, setting->second);
@@ -301,7 +301,7 @@ static Settings DefaultsOfPPD(const Settings &named)
 
 std::string AddPPDTickets(const char *const *argv, JobOptions &options)
 {
-    const std::vector<Row> rows = RowsOfPPD();
+    const std::vector<PPDRow> rows = RowsOfPPD();
     const bool sendDefaults = PPDAttributeIs(kSendDefaultsAttribute, "True");
     if (rows.empty() && !sendDefaults)
         return {};
