@@ -71,7 +71,7 @@ ROWS = r"""
 *OVTicket job-accounting-user-id: ".JBAUserIDListCtrlTicket=2 .JBAUserIDTextEditTicket={}"
 """
 
-# What the office queue's defaults are, for the queue without rows; a job's own options come behind them.
+# What the office queue's defaults are, for the queue without rows; a job's own options come after them.
 DEFAULTS = ["OVStaple=None", "OVPunch=None", "OVNumPunchHoles=2Holes", "OVSignature=None", "OVSigVol=None",
             "OVTonerSaver=false", "OVTonerReductionRate=Percent0", "OVLineWeightAdjustment=Normal", "OVColorMode=Color",
             "sides=one-sided", TICKET + "WMARKTypeTicket=1"]

@@ -6,7 +6,7 @@
 
 #include <sstream>
 
-// The texts of the lines behind what all of them begin with.
+// The texts of the lines after what all of them begin with.
 static Cells AdvancedLines()
 {
     static const std::string start = "@PJL COMMENT PRINTJOBINFO ";

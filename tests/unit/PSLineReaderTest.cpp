@@ -9,7 +9,7 @@
 #include <thread>
 #include <unistd.h>
 
-// A reading: what was written, lines of interest between < and >, then a NUL and the bytes behind the last line end.
+// A reading: what was written, lines of interest between < and >, then a NUL and the bytes after the last line end.
 
 static const PSWatch watch = {"%%BeginFeature:", {"TSCR", "TCPR"}};
 

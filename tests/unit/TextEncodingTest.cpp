@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-// The bytes behind the text must be zero and the result its length.
+// The bytes after the text must be zero and the result its length.
 static std::string Converted(int32_t (*convert)(const char *, void *, int32_t), const Cells &given)
 {
     auto buffer = Buffer(Number(given[1]));

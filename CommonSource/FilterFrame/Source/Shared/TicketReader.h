@@ -35,7 +35,7 @@ inline constexpr char kLayoutDirectionTicketKey[] = "com.apple.print.PrintSettin
 inline constexpr char kQBPunchHoleTicketKey[] = "OVNumPunchHoles";
 
 // The job's options (argument 5) with what the queue's PPD adds to them, parsed once a job.
-// text: the argument, and behind it a word for each option that was added, with "no" before it where that is false.
+// text: the argument, and after it a word for each option that was added, with "no" before it where that is false.
 struct JobOptions {
     int32_t count;
     cups_option_t *list;
