@@ -62,8 +62,14 @@ class Printer:
 
 
 class PrivateCups:
-    def __init__(self, filter_path):
+    def __init__(self, filter_path, web=False):
+        """With web it has its pages, at self.address, and queues have addresses that lpoptions -l can ask."""
         self.filter_path = filter_path
+        self.address = None
+        if web:
+            with socket.socket() as free:
+                free.bind(("127.0.0.1", 0))
+                self.address = f"127.0.0.1:{free.getsockname()[1]}"
         self.root = tempfile.mkdtemp(prefix="ovcups.", dir="/tmp")  # short: the socket's path is limited
         self.server = None
 
@@ -116,7 +122,8 @@ class PrivateCups:
         os.chmod(installed, 0o755)
 
     def _write_configuration(self):
-        for folder in ("etc", "etc/ppd", "cache", "state", "spool", "spool/tmp", "doc"):
+        data = subprocess.run(["cups-config", "--datadir"], check=True, capture_output=True, text=True).stdout.strip()
+        for folder in ("etc", "etc/ppd", "cache", "state", "spool", "spool/tmp"):
             os.makedirs(self.path(folder), 0o755)
         if os.geteuid() == 0:
             lp = pwd.getpwnam("lp")
@@ -124,18 +131,19 @@ class PrivateCups:
                 os.chown(self.path(folder), lp.pw_uid, lp.pw_gid)
         with open(self.path("cups-files.conf"), "w") as conf:
             for name, value in (("ServerRoot", "etc"), ("CacheDir", "cache"), ("StateDir", "state"),
-                                ("RequestRoot", "spool"), ("TempDir", "spool/tmp"), ("DocumentRoot", "doc"),
-                                ("ServerBin", "bin"), ("AccessLog", "access_log"), ("ErrorLog", "error_log"),
-                                ("PageLog", "page_log"), ("ServerKeychain", "etc/ssl")):
+                                ("RequestRoot", "spool"), ("TempDir", "spool/tmp"),
+                                ("DocumentRoot", os.path.join(data, "doc-root")), ("ServerBin", "bin"),
+                                ("AccessLog", "access_log"), ("ErrorLog", "error_log"), ("PageLog", "page_log"),
+                                ("ServerKeychain", "etc/ssl")):
                 conf.write(f"{name} {self.path(value)}\n")
             conf.write("FatalErrors none\nPassEnv ASAN_OPTIONS UBSAN_OPTIONS LSAN_OPTIONS\n")
         with open(self.path("cupsd.conf"), "w") as conf:
+            conf.write(f"Listen {self.address}\nWebInterface Yes\n" if self.address else "WebInterface No\n")
             conf.write(f"""Listen {self.path("cups.sock")}
 LogLevel debug
 MaxLogSize 0
 PageLogFormat %p %j %u %P %C
 Browsing No
-WebInterface No
 DefaultShared No
 IdleExitTimeout 0
 <Location />
