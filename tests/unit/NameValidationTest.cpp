@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 TEST(NameValidation, AllowedCharacters)
 {
@@ -34,6 +35,17 @@ TEST(NameValidation, WhatNoJobReaches)
     strcpy(PTStdDocumentName, "ABCDEFGHIJKLMNOP");
     InvalidatePrintTypeDocumentNameForProductType(argv);
     EXPECT_STREQ(PTStdDocumentName, "ABCDEFGHIJKL");
+
+    // After a name that fills the limit stands what stood there before; the types 2 and 3 empty it first.
+    for (const auto &[type, length] : {std::pair<std::string, size_t>{"3", 64}, {"2", 12}, {"7", 80}}) {
+        const std::string option = std::string(kPrintTypeProductType) + "=" + type;
+        argv[5] = option.c_str();
+        memset(PTStdDocumentName, 'x', 80);
+        memset(StdDocumentName, 'a', 64);
+        InvalidateStdDocumentNameForProductType(argv);
+        EXPECT_EQ(strlen(PTStdDocumentName), length) << type;
+        ClearJobState();
+    }
 
     for (const size_t length : {255u, 256u}) {
         memset(StdUserName, 'a', length);
