@@ -4,14 +4,13 @@ usage: page_log.py FILTER PPD
 """
 
 import os
-import re
 import subprocess
 import sys
 import unittest
 
-from private_cups import PrivateCups, Printer, wait_for, without_collate
+from private_cups import CupsJobs, without_collate
 
-FILTER, PPD = sys.argv[1:]
+PPD = sys.argv[2]
 GROFF = b".ps 24\n" + b"\n.bp\n".join(b"Page %d" % n for n in (1, 2, 3)) + b"\n"
 IMAGE = b"P3 2 2 255 " + b"0 0 0 255 0 0 " * 2
 
@@ -41,11 +40,10 @@ def made(*command, data=b""):
     return subprocess.run(command, input=data, check=True, capture_output=True).stdout
 
 
-class PageLog(unittest.TestCase):
+class PageLog(CupsJobs):
     @classmethod
     def setUpClass(cls):
-        cls.printer = Printer()
-        cls.cups = cls.enterClassContext(PrivateCups(FILTER))
+        super().setUpClass()
         cls.cups.add_queue("office", PPD, cls.printer)
         cls.cups.add_queue("uncollated", without_collate(PPD, cls.cups.path("uncollated.ppd")), cls.printer)
         pdf = lambda source: made("gs", "-q", "-sDEVICE=pdfwrite", "-o", "-", "-", data=source)
@@ -55,15 +53,6 @@ class PageLog(unittest.TestCase):
             with open(cls.cups.path(name), "wb") as file:
                 file.write(content)
             os.chmod(file.name, 0o644)
-
-    def logged(self, job):
-        """The pages that were reported of the job, each with its copies; what cupsd made of them is their sum."""
-        reports = [re.search(r"PAGE: (\d+) (\d+)$", line) for line in self.cups.log_of(job)]
-        pages = [(int(report[1]), int(report[2])) for report in reports if report]
-        rows = [row.split() for row in self.cups.text("page_log").splitlines()]
-        self.assertEqual([row[3:] for row in rows if row[1] == job.rsplit("-", 1)[1]],
-                         [["total", str(sum(copies for _, copies in pages))]])
-        return pages
 
     def test_truth(self):
         rows = [("office", *row) for row in TRUTH] + [("uncollated", *row) for row in TRUTH_WITHOUT_COLLATE]
@@ -77,28 +66,6 @@ class PageLog(unittest.TestCase):
                     self.assertEqual(sum(copies for _, copies in logged), copies, logged)
                 else:
                     self.assertEqual(logged, [(page, copies) for page in range(1, pages + 1)])
-
-    def test_cancelled_job_has_the_pages_that_were_sent(self):
-        document = self.cups.path("long.ps")
-        pages = 160
-        with open(document, "w") as file:
-            file.write(f"%!PS-Adobe-3.0\n%%Pages: {pages}\n%%EndComments\n%%EndProlog\n")
-            for page in range(1, pages + 1):
-                file.write(f"%%Page: {page} {page}\n" + ("% " + "filler " * 14 + "\n") * 1000 + "showpage\n")
-            file.write("%%Trailer\n%%EOF\n")
-        os.chmod(document, 0o644)
-        self.addCleanup(self.printer.ready.set)
-        self.printer.ready.clear()
-        index = len(self.printer.jobs)
-        job = self.cups.lp("office", document, "Report")
-        wait_for(lambda: len(self.printer.jobs) > index and b"%%Page: 1 1" in self.printer.jobs[index], "pages")
-        self.cups.run("cancel", job)
-        self.printer.ready.set()
-        wait_for(lambda: self.printer.ended > index, "the job's last byte")
-        self.cups.wait_done(job)
-        sent = self.printer.jobs[index].split(b"\n").count(b"showpage")
-        self.assertLess(sent, pages)
-        self.assertEqual(self.logged(job), [(page, 1) for page in range(1, sent + 1)])
 
 
 if __name__ == "__main__":

@@ -7,8 +7,12 @@ import shutil
 import socket
 import subprocess
 import tempfile
+import sys
 import threading
 import time
+import unittest
+
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "jobs"))
 
 BOUND = 120  # seconds that anything awaited may take
 
@@ -194,3 +198,36 @@ IdleExitTimeout 0
         """What cupsd and the job's filters logged about it."""
         mark = f"[Job {job.rsplit('-', 1)[1]}]"
         return [line for line in self.text("error_log").splitlines() if mark in line]
+
+
+class CupsJobs(unittest.TestCase):
+    """Tests with a printer and a print system, whose filter is the first argument."""
+
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.printer = Printer()
+        cls.cups = cls.enterClassContext(PrivateCups(sys.argv[1]))
+
+    def taken(self, submit, meanwhile=None):
+        """Submits a job and returns what the printer takes of it, and its name."""
+        index = len(self.printer.jobs)
+        name = submit()
+        try:
+            if meanwhile:
+                meanwhile(name, index)
+            wait_for(lambda: self.printer.ended > index, f"the last byte of {name}")
+            self.cups.wait_done(name)
+        except TimeoutError as error:
+            self.fail("\n".join([str(error), *self.cups.log_of(name)]))
+        return bytes(self.printer.jobs[index]), name
+
+    def logged(self, job):
+        """The pages that were reported of the job, each with its copies; what cupsd made of them is their sum."""
+        reports = [re.search(r"PAGE: (\d+) (\d+)$", line) for line in self.cups.log_of(job)]
+        pages = [(int(report[1]), int(report[2])) for report in reports if report]
+        rows = [row.split() for row in self.cups.text("page_log").splitlines()]
+        self.assertEqual([row[3:] for row in rows if row[1] == job.rsplit("-", 1)[1]],
+                         [["total", str(sum(copies for _, copies in pages))]])
+        return pages

@@ -31,10 +31,10 @@ def run(*command, data=b"", environment=None):
                           env=environment).stdout
 
 
-def filtered(document, tickets):
+def filtered(document, tickets, ppd=PPD):
     options = " ".join(f"com.orvane.dlg.printsettings.WMARK{key}Ticket={value}" for key, value in tickets.items())
     job = run(FILTER, 1, "taro", "Report", 1, options, data=document,
-              environment={"PATH": os.defpath, "TMPDIR": tempfile.gettempdir(), "PPD": PPD})
+              environment={"PATH": os.defpath, "TMPDIR": tempfile.gettempdir(), "PPD": ppd})
     return job.split(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n", 1)[1].rsplit(b"\x04", 1)[0]
 
 
@@ -70,9 +70,9 @@ def over(page, mark):
 
 
 class RenderedDocuments(unittest.TestCase):
-    def check(self, document, sizes, tickets=MARK, mark=centred):
+    def check(self, document, sizes, tickets=MARK, mark=centred, ppd=PPD):
         """The pages have these sizes and are marked but where the size is None; they are the document's otherwise."""
-        plain, marked = rendered(filtered(document, {})), rendered(filtered(document, tickets))
+        plain, marked = (rendered(filtered(document, given, ppd)) for given in ({}, tickets))
         if KEEP:
             for number, (width, height, pixels) in enumerate(marked):
                 path = Path(KEEP[0], f"{self.id().split('.')[-1]}-{getattr(self, 'label', '')}-{number}.ppm")
@@ -191,15 +191,25 @@ class RenderedDocuments(unittest.TestCase):
             self.check(document(failing), [None] * 2, MARK | {"Font": "F"})
 
     def test_geometry_of_the_job(self):
-        """Paper, box and offsets of the tickets place the mark as they do at page markers."""
-        geometry = {"Orientation": 1, "PaperWidth": 400, "PaperHeight": 600, "Width": 280, "Height": 63, "hOffset": 20,
-                    "vOffset": -30, "Angle": 0}
-        document = b"%!PS-Adobe-3.0\n<</PageSize[595 842]>>setpagedevice\n%%EndSetup\n%%Page: 1 1\nshowpage\n"
-        for width, height, left in ((280, 63, "-140"), (280, -1, "-140"), (-1, 63, "dup stringwidth pop -2 div")):
-            with self.subTest(width=width, height=height):
-                self.check(document, [A4], MARK | geometry | {"Width": width, "Height": height}, lambda size: (
-                    f"%!\n<</PageSize[595 842]>>setpagedevice {COLOUR} setrgbcolor /Helvetica-Bold 90 selectfont "
-                    f"220 270 translate (DRAFT) {left} -31.5 moveto show showpage"))
+        """Paper, box and offsets of the tickets place the mark, at page markers too, where no attribute asks for more."""
+        markers = "/pgsave 0 def/bp{/pgsave save def}bind def/ep{pgsave restore showpage}bind def\n%%EndProlog\n"
+        lines = "10 20 900{0 exch moveto 900 0 rlineto stroke}for\n"
+        for orientation, angle, across, up in ((1, 0, 20, -30), (1, 30, 0, 0), (3, 90, 0, 0), (1, 135, 0, 0),
+                                               (1, 250, 25, -40), (2, 45, 0, 0), (4, 300, 0, 0)):
+            size = A4 if orientation % 2 else WIDE
+            place = f"{size[0] / 2 + across} {size[1] / 2 + up} translate {angle} rotate"
+            geometry = MARK | {"Orientation": orientation, "PaperWidth": A4[0], "PaperHeight": A4[1], "Width": 280,
+                               "Height": 63, "hOffset": across, "vOffset": up, "Angle": angle}
+            paper = f"<</PageSize[{size[0]} {size[1]}]>>setpagedevice\n%%EndSetup\n"
+            page = f"%%Page: 1 1\nbp\n%%EndPageSetup\n{lines}ep\n"
+            document = f"%!PS-Adobe-3.0\n%%BeginProlog\n{markers}{paper}{page}{page}".encode()
+            by_the_printer = [] if angle else [(PPD, {}), (PPD, {"Width": -1}), (PPD, {"Height": -1})]
+            for ppd, box in (("", {"OnlyFirst": 1}), *by_the_printer):
+                with self.subTest(orientation=orientation, angle=angle, ppd=ppd, box=box):
+                    left = "dup stringwidth pop -2 div" if box.get("Width") else "-140"
+                    self.check(document, [size, None if "OnlyFirst" in box else size], geometry | box, lambda size: (
+                        f"%!\n<</PageSize[{size[0]} {size[1]}]>>setpagedevice {COLOUR} setrgbcolor /Helvetica-Bold 90 "
+                        f"selectfont {place} (DRAFT) {left} -31.5 moveto show showpage"), ppd)
 
 
 if __name__ == "__main__":

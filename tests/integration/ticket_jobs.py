@@ -11,11 +11,11 @@ import sys
 import tempfile
 import unittest
 
-FILTER, COPYING_FILTER, TOOL, PPDS, DATA, DOCUMENT = sys.argv[1:7]
-sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "jobs"))
+from private_cups import CupsJobs, wait_for
 
 from blobs import Blob
-from private_cups import PrivateCups, Printer, wait_for
+
+COPYING_FILTER, TOOL, PPDS, DATA, DOCUMENT = sys.argv[2:7]
 
 TICKET = "com.orvane.dlg.printsettings."
 PIN = "48150623"
@@ -86,13 +86,10 @@ def mark(text):
     return [f"WMARKTextTicket={text}", *MARK]
 
 
-class Jobs(unittest.TestCase):
-    maxDiff = None
-
+class Jobs(CupsJobs):
     @classmethod
     def setUpClass(cls):
-        cls.printer = Printer()
-        cls.cups = cls.enterClassContext(PrivateCups(FILTER))
+        super().setUpClass()
         with open(os.path.join(PPDS, "office.ppd"), encoding="utf-8") as file:
             ppd = "".join(line for line in file if not line.startswith(("*OVTicket", "*OVSendDefaults", "*cupsJob")))
         for queue, rows in (("rows", ROWS), ("set", ROWS), ("plain", "")):
@@ -103,14 +100,7 @@ class Jobs(unittest.TestCase):
 
     def taken(self, submit):
         """What the printer takes of a job: its header with the blobs opened, and its document."""
-        index = len(self.printer.jobs)
-        name = submit()
-        try:
-            wait_for(lambda: self.printer.ended > index, f"the last byte of {name}")
-            self.cups.wait_done(name)
-        except TimeoutError as error:
-            self.fail("\n".join([str(error), *self.cups.log_of(name)]))
-        job = bytes(self.printer.jobs[index])
+        job, _ = super().taken(submit)
         self.assertNotIn(PIN.encode(), job)
         header, _, document = job.partition(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n")
         header = re.sub(rb'(KEY=")([^"]{492})"', lambda blob: blob[1] + b"{" + Blob(blob[2]).password + b'}"', header)

@@ -15,6 +15,7 @@ import unittest
 from pathlib import Path
 
 from blobs import Blob
+from content import content_line, line_of, unescape
 
 FILTER, COPYING_FILTER = sys.argv[1:3]
 SAMPLES, DATA = map(Path, sys.argv[3:5])
@@ -22,32 +23,10 @@ EXPLAIN = os.environ.get("ORVANE_JOB")  # the tool, which must know every line
 PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
             b'*LanguageEncoding: ISOLatin1\n')
 PREFIX = b"com.orvane.dlg.printsettings."
-CODES = {b"e": b"\x1b", b"r": b"\r", b"n": b"\n", b"t": b"\t", b"\\": b"\\"}
 DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1",
             b"environment": b"LANG=C TZ=UTC TMPDIR={folder}"}
 TOKEN = re.compile(rb"""(?:\\\{\d+ .*?\}|\{blob:[^}]*\}|'[^']*'|"[^"]*"|\S)+""")
 CHOICE = re.compile(rb"\[([^][]*\|[^][]*)\]")
-
-
-def unescape(text):
-    def meaning(match):
-        byte, count, repeated, code = match.groups()
-        return bytes.fromhex(byte.decode()) if byte else int(count) * unescape(repeated) if count else CODES[code]
-    return re.sub(rb"\\(?:x(..)|\{(\d+) (.*?)\}|(.))", meaning, text)
-
-
-def content_line(text):
-    """A line of content: it ends with a line feed unless a single backslash ends it."""
-    open_ended = (len(text) - len(text.rstrip(b"\\"))) % 2
-    return unescape(text[:-1] if open_ended else text + b"\n")
-
-
-def line_of(token):
-    """The line that a token stands for: @NAME=VALUE, a job attribute; :NAME=VALUE, a comment; NAME=VALUE, a setting."""
-    if not token.startswith(b"@"):
-        return content_line(b"@PJL COMMENT PRINTJOBINFO " + token[1:] if token[:1] == b":" else b"@PJL SET " + token)
-    value, end = re.fullmatch(rb"(.*?)((?<!\\)\\|\\r|\.\.\.|)", token).groups()
-    return content_line(b'@PJL SET JOBATTR="' + {b"\\": value + b"\\", b"...": b"\\"}.get(end, value + b'"' + end))
 
 
 def key_of(line):

@@ -18,26 +18,15 @@ import termios
 import unittest
 from pathlib import Path
 
+sys.path.insert(0, str(Path(__file__).parents[1] / "jobs"))
+from content import content_line, unescape  # noqa: E402
+
 TOOL, FILTER = sys.argv[1:3]
 SAMPLES, DATA = map(Path, sys.argv[3:5])
 KEY = DATA / "keys" / "development-2048.pem"
-CODES = {b"e": b"\x1b", b"r": b"\r", b"n": b"\n", b"\\": b"\\"}
 UEL = b"\x1b%-12345X"
 TICKET = "com.orvane.dlg.printsettings."
 SOURCES = DATA.parents[1]
-
-
-def unescape(text):
-    def meaning(match):
-        byte, count, repeated, code = match.groups()
-        return bytes.fromhex(byte.decode()) if byte else int(count) * repeated if count else CODES[code]
-    return re.sub(rb"\\(?:x(..)|\{(\d+) (.*?)\}|(.))", meaning, text)
-
-
-def content_line(text):
-    """A line of content: it ends with a line feed unless a single backslash ends it."""
-    open_ended = (len(text) - len(text.rstrip(b"\\"))) % 2
-    return unescape(text[:-1] if open_ended else text + b"\n")
 
 
 def read_cases(path):
