@@ -86,6 +86,8 @@ class JobFile:
             if row.startswith(b"| "):
                 line = content_line(argument)
                 content.append([key_of(line), line])
+            elif word == b"=":
+                content.extend([key_of(line), line] for line in map(line_of, argument.split()))
             elif row == b"|":
                 content.append([None, b"\n"])
             elif word == b"+":
