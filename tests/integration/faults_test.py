@@ -111,6 +111,23 @@ class Faults(unittest.TestCase):
         self.assertGreaterEqual(status, 0, "ended by a signal, or took too long")
         return status
 
+    def assert_pages(self, *pages):
+        """The filter reported these pages, one copy each, and nothing else."""
+        self.messages.seek(0)
+        self.assertEqual(self.messages.read(), b"".join(b"PAGE: %d 1\n" % page for page in pages))
+
+    def received(self, process, size):
+        """The first bytes of the output."""
+        output = b""
+        while len(output) < size:
+            output += process.stdout.read(size - len(output))
+        return output
+
+    def cancel_when_waiting(self, process):
+        self.settle(process)
+        process.send_signal(signal.SIGTERM)
+        self.settle(process)
+
     def run_job(self, document=b"", **settings):
         """Runs a whole job, its document from a file; returns its output."""
         process = self.start(file=self.write("document.ps", document), **settings)
@@ -159,9 +176,7 @@ class Faults(unittest.TestCase):
                            len(whole) - 3 * PIPE):
                 with self.subTest(spooled=spooled, offset=offset):
                     process = self.start(file=document, spooled=spooled)
-                    received = b""
-                    while len(received) < offset:
-                        received += process.stdout.read(offset - len(received))
+                    received = self.received(process, offset)
                     process.stdout.close()
                     self.assertEqual(self.end(process), 1)
                     self.assertTrue(whole.startswith(received))
@@ -221,9 +236,7 @@ class Faults(unittest.TestCase):
         with output.open("wb") as file:
             process = self.start(spooled=spooled, stdout=file, **settings)
         process.stdin.write(document[:position])
-        self.settle(process)
-        process.send_signal(signal.SIGTERM)
-        self.settle(process)
+        self.cancel_when_waiting(process)
         try:
             process.stdin.write(document[position:])
         except BrokenPipeError:
@@ -278,33 +291,26 @@ class Faults(unittest.TestCase):
         # Where the signal comes, where the job ends (None: at the document's end) and how many pages were reported.
         for position, end, logged in ((second - 5, second, 1), (last + 2, last, 78), (trailer + 9, trailer, 79),
                                       (len(document) - 1, None, 79)):
-            report = b"".join(b"PAGE: %d 1\n" % n for n in range(1, logged + 1))
             for spooled in (False, True):
                 with self.subTest(position=position, spooled=spooled):
                     output = self.cancel_at(document, position, spooled)
-                    self.messages.seek(0)
-                    self.assertEqual(self.messages.read(), report)
-                    if end is not None:
-                        self.assert_job(output, None if spooled else document[:end])
-                    elif spooled:
-                        self.assert_job(output, start)
+                    self.assert_pages(*range(1, logged + 1))
+                    if spooled:
+                        self.assert_job(output, start if end is None else None)
                     else:
-                        self.assert_job(output, document + b"\x04")
+                        self.assert_job(output, document + b"\x04" if end is None else document[:end])
                     for file in self.spool_files():
                         self.assertEqual(file.read_bytes(), document[:end])
                         file.unlink()
         # A page whose own end does not go out is not reported.
         shown = b"%!PS-Adobe-3.0\n%%Page: 1 1\nshowpage\n%%Page: 2 2\nshowpage\n"
         self.assert_job(self.cancel_at(shown, len(shown) - 3, False), shown[:-len(b"showpage\n")])
-        self.messages.seek(0)
-        self.assertEqual(self.messages.read(), b"PAGE: 1 1\n")
+        self.assert_pages(1)
         # Cancelled on its way to the printer, in the midst of a picture: the page is over where the next one begins.
         picture = start + b"%%Page: 1 1\n" + inner.replace(b"%%Trailer\n", b"%%Page: 2 2\n0 0 moveto\n" * 4 * PIPE)
         process = self.start(file=self.write("document.ps", picture + b"%%Page: 2 2\n" + page * 99), spooled=True)
         output = process.stdout.read(3 * PIPE)
-        self.settle(process)
-        process.send_signal(signal.SIGTERM)
-        self.settle(process)
+        self.cancel_when_waiting(process)
         output += process.stdout.read()
         self.assertEqual(self.end(process), 0)
         self.assert_job(output, picture)
@@ -335,12 +341,8 @@ class Faults(unittest.TestCase):
             for offset in (1, 3000, PIPE, 5 * PIPE):
                 with self.subTest(spooled=spooled, offset=offset):
                     process = self.start(file=path, spooled=spooled)
-                    output = b""
-                    while len(output) < offset:
-                        output += process.stdout.read(offset - len(output))
-                    self.settle(process)
-                    process.send_signal(signal.SIGTERM)
-                    self.settle(process)
+                    output = self.received(process, offset)
+                    self.cancel_when_waiting(process)
                     output += process.stdout.read()
                     self.assertEqual(self.end(process), 0)
                     sent = output.partition(ENTER)[2].removesuffix(TRAILER)
@@ -349,27 +351,20 @@ class Faults(unittest.TestCase):
                     self.assertLess(len(sent), len(document))
                     self.assertEqual(self.spool_files(), [])
 
-    def limit_files(self, size):
+    def test_disk_full_under_the_files_of_a_job(self):
+        document = pages(200)
+
         def limit():
             signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
             resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
-        return limit
-
-    def test_disk_full_under_the_spool_file(self):
-        document = pages(200)
-        for size in (0, 1, 4096, len(document) - 1):
-            with self.subTest(size=size):
-                output = self.run_job(document, spooled=True, preexec_fn=self.limit_files(size))
-                self.assert_job(output, None)
-                self.assertEqual(self.spool_files(), [])
-
-    def test_disk_full_under_the_job_copy(self):
-        document = pages(200)
-        for size in (0, 1, 100, 4096, len(document)):
-            with self.subTest(size=size):
-                output = self.run_job(document, program=COPYING_FILTER, preexec_fn=self.limit_files(size))
-                self.assert_job(output, document + b"\x04")
-                for copy in self.spool_files():
+        for size, spooled in itertools.product((0, 1, 100, 4096, len(document) - 1), (False, True)):
+            with self.subTest(size=size, spooled=spooled):
+                output = self.run_job(document, spooled=spooled, preexec_fn=limit,
+                                      program=FILTER if spooled else COPYING_FILTER)
+                self.assert_job(output, None if spooled else document + b"\x04")
+                copies = self.spool_files()
+                self.assertLessEqual(len(copies), not spooled)
+                for copy in copies:
                     self.assertTrue(output.startswith(copy.read_bytes()))
                     copy.unlink()
 

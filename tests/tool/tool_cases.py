@@ -4,13 +4,11 @@ A case has jobs as files by name, in lines of content as data/jobs has them; the
 usage: tool_cases.py ORVANE-JOB FILTER SAMPLE-PPDS TEST-DATA [unittest arguments, such as show]
 """
 
-import fcntl
 import json
 import os
 import pty
 import re
 import shlex
-import struct
 import subprocess
 import sys
 import tempfile
@@ -30,7 +28,7 @@ SOURCES = DATA.parents[1]
 
 
 def read_cases(path):
-    """Each case is a dictionary: run, status, says, and its files by name, to which those in front of the first belong."""
+    """Each case is a dictionary: run, status, says, and its files by name; those before the first case are all cases'."""
     cases, content, shared = [], None, {}
     for row in path.read_bytes().split(b"\n"):
         word, _, argument = row.partition(b" ")
@@ -195,12 +193,10 @@ class calls(Tool):
         # Where the end of the document lies across the pieces in which the job is read.
         for length in range(16384 - 12, 16384 + 3):
             long_line = b"%!PS" + (length - 4) * b"x"
-            self.run_tool("show", "--postscript", "out",
-                          data=UEL + b"@PJL ENTER LANGUAGE=POSTSCRIPT\n" + long_line + b"\x04" + UEL + b"@PJL EOJ\n")
-            self.assertEqual((self.folder / "out").read_bytes(), long_line, length)
-            self.run_tool("show", "--postscript", "out",
-                          data=UEL + b"@PJL ENTER LANGUAGE=POSTSCRIPT\n" + long_line + UEL + b"@PJL EOJ\n")
-            self.assertEqual((self.folder / "out").read_bytes(), long_line, length)
+            for end in (b"\x04", b""):
+                self.run_tool("show", "--postscript", "out",
+                              data=UEL + b"@PJL ENTER LANGUAGE=POSTSCRIPT\n" + long_line + end + UEL + b"@PJL EOJ\n")
+                self.assertEqual((self.folder / "out").read_bytes(), long_line, length)
         before = (self.folder / "job").read_bytes()
         self.assertIn(b"is the job itself", self.run_tool("show", "--postscript", "job", "job", status=2).stderr)
         self.assertEqual((self.folder / "job").read_bytes(), before)
@@ -210,10 +206,8 @@ class calls(Tool):
         block = b"(some text) show\n" * 60000
         head = UEL + b"@PJL JOB MODE=PRINTER\r\n@PJL ENTER LANGUAGE=POSTSCRIPT\n%!PS\n"
         with subprocess.Popen([TOOL, "show"], stdin=subprocess.PIPE, stdout=subprocess.PIPE) as tool:
-            tool.stdin.write(head)
-            for _ in range(128):
-                tool.stdin.write(block)
-            tool.stdin.write(b"\x04" + UEL + b"@PJL EOJ\n")
+            for piece in (head, *[block] * 128, b"\x04" + UEL + b"@PJL EOJ\n"):
+                tool.stdin.write(piece)
             tool.stdin.close()
             shown = tool.stdout.read()
             _, status, usage = os.wait4(tool.pid, 0)
@@ -238,7 +232,7 @@ class calls(Tool):
         for environment, coloured in (({"TERM": "xterm"}, True), ({"TERM": "xterm", "NO_COLOR": "1"}, False), ({}, False),
                                       ({"TERM": "dumb"}, False)):
             leader, follower = pty.openpty()
-            fcntl.ioctl(follower, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 60, 0, 0))
+            termios.tcsetwinsize(follower, (24, 60))
             with subprocess.Popen([TOOL, "show", "job"], stdout=follower, cwd=self.folder, env=environment):
                 os.close(follower)
                 shown = b""
