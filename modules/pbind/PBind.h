@@ -13,7 +13,7 @@ struct PBindOptions {
     char bindPosition[kPBindTextSize];
     char trimming[kPBindTextSize];
     char cutPageSize[kPBindTextSize];
-    int32_t imagePosition; // not used; its key begins with "no" so that no option has it
+    int32_t imagePosition; // not used and always -1, absent: no option has a name that begins with "no"
     char cutPositionTop[kPBindTextSize];
     char cutPositionFore[kPBindTextSize];
     char pageSize[kPBindTextSize];

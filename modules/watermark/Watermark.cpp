@@ -66,7 +66,7 @@ static TextWatermarkBlock InjectTextWatermark[] = {
     {kEventEndPageOfFilter, "wqwpgsave restore /wqwpgsave save store gsave\n", true},
 };
 
-// One operation a statement: the result is that of 32-bit floats also where a compiler could fuse two operations.
+// Each operation rounds to a 32-bit float; the build keeps compilers from fusing two into one (-ffp-contract=off).
 float Lighten(float component, float density)
 {
     const float distance = 1 - component;
