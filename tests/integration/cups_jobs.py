@@ -21,11 +21,12 @@ TRAILER = b"\x1b%-12345X@PJL EOJ\n"
 
 
 def header(tokens):
-    """The header of tokens as in the job cases, from who sent the job and how many pages a sheet has, which cupsd says."""
+    """The header of tokens as in the job cases; {sender} is who sent the job and the pages of a sheet, as cupsd says."""
     sender = rb"@CNAM={host} @LUNA=taro @NLPP=N1 @JOAU=taro\r @ACNA=Monthly\x20report\r".replace(
         b"{host}", socket.gethostname().encode())
     tokens = tokens.replace(b"{sender}", sender).split()
-    return "\x1b%-12345X@PJL SET STRINGCODESET=UTF8\n@PJL JOB MODE=PRINTER\r\n" + b"".join(map(line_of, tokens)).decode()
+    lines = b"".join(map(line_of, tokens)).decode()
+    return "\x1b%-12345X@PJL SET STRINGCODESET=UTF8\n@PJL JOB MODE=PRINTER\r\n" + lines
 
 
 OFFICE_OPTIONS = ["sides=two-sided-long-edge", "OVStaple=LeftDouble", "OVSignature=None", "OVTonerSaver=true",
