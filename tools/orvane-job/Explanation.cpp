@@ -9,6 +9,7 @@ static constexpr std::string_view kSet = "@PJL SET ";
 static constexpr std::string_view kComment = "@PJL COMMENT PRINTJOBINFO ";
 static constexpr std::string_view kPJL = "@PJL ";
 static constexpr char kPasswordVariable[] = "*password*";
+static constexpr size_t kLongestFragment = 60;
 
 // A line taken apart, in the job's bytes. brief: name, "=" and value, without quotes.
 struct Parts {
@@ -55,7 +56,7 @@ static Parts TakeApart(const JobLine &line)
         text.remove_prefix(kComment.size());
     } else if (text.starts_with(kPJL)) {
         text.remove_prefix(kPJL.size());
-    } else {
+    } else if (line.ended || !kPJL.starts_with(text)) {
         parts.trouble = "not a line of PJL: a line end in the text before it, or damage";
     }
     if (parts.brief.empty()) {
@@ -100,6 +101,17 @@ static void ExplainPassword(const Parts &parts, const PasswordView &view, bool i
     }
     if (password.bytes && !password.isForThisBuild && line.trouble.empty())
         line.trouble = "encrypted for another key than this build's: another filter made it";
+}
+
+// A line that the tool cannot name, as it stands.
+static std::string Fragment(std::string_view bytes, bool isUTF8)
+{
+    if (bytes.size() <= kLongestFragment)
+        return Readable(bytes, isUTF8);
+    bytes = bytes.substr(0, kLongestFragment);
+    while (EndsInsideCharacter(bytes, isUTF8))
+        bytes.remove_suffix(1);
+    return Readable(bytes, isUTF8) + "...";
 }
 
 static std::string InWords(const LineMeaning &row, std::string_view value)
@@ -151,6 +163,8 @@ static ExplainedLine ExplainLine(const JobLine &line, const DocumentFacts &docum
         explained.known = true;
         return explained;
     }
+    if (!row && !parts.trouble.empty())
+        explained.brief = Fragment(line.bytes, isUTF8);
     if (!row) {
         explained.words = !parts.trouble.empty() ? ""
                           : IsNameKnown(parts)   ? "not a value that this filter sends"

@@ -71,7 +71,8 @@ static void TakeLine(Reading &reading, std::string_view line, uint64_t offset)
 // Returns false where the UEL is only some bytes of the document.
 static bool LeavesDocument(std::string_view rest)
 {
-    return rest.empty() || rest.starts_with(kPJLPrefix) || rest == "\n" || rest == "\r" || rest == "\r\n";
+    return kPJLPrefix.starts_with(rest) || rest.starts_with(kPJLPrefix) || rest == "\n" || rest == "\r" ||
+           rest == "\r\n";
 }
 
 static void TakePiece(Reading &reading, std::string_view piece, uint64_t offset)

@@ -7,6 +7,7 @@
 #include <vector>
 
 inline constexpr char kCommentGroup[] = "Comment block";
+inline constexpr char kHoldGroup[] = "How it is held";
 inline constexpr char kQualityGroup[] = "Image quality";
 
 // group: the section. A line fits when it begins with `before`, ends with `after` and, unless `variable` names what

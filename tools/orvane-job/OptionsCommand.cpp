@@ -82,7 +82,8 @@ static int RunFilter(const Call &call, const std::string &document, const char *
         dup2(fileno(out), STDOUT_FILENO);
         setenv("PPD", call.ppd.path.c_str(), 1);
         setenv("TMPDIR", call.folder.path.c_str(), 1);
-        const char *const job[] = {"pstoorvane", "1", cupsUser(), "Document", "1", text, document.c_str(), nullptr};
+        const char *const job[] = {"pstoorvane", "1",  "example-user",   "example-title",
+                                   "1",          text, document.c_str(), nullptr};
         _exit(FilterMain(7, job));
     }
     int status = -1;
@@ -113,8 +114,9 @@ static bool ExplainCall(const Call &call, int left, Explanation &explanation)
     return ran;
 }
 
-// A choice that the PPD does not have, of an option that it has; with the choice that was perhaps meant.
-static std::string ChoiceTrouble(const Call &call, const cups_option_t &option)
+// A choice that the PPD does not have, of an option that it has, as it is shown; with the choice that was perhaps
+// meant.
+static std::string ChoiceTrouble(const Call &call, const cups_option_t &option, const std::string &shown)
 {
     for (const QueueOption &known : call.ppd.options) {
         if (strcasecmp(known.keyword.c_str(), option.name) != 0 || known.hasCustomChoice)
@@ -123,8 +125,7 @@ static std::string ChoiceTrouble(const Call &call, const cups_option_t &option)
             if (strcasecmp(choice.c_str(), option.value) == 0)
                 return {};
         const std::string *nearest = NearestName(option.value, known.choices);
-        return "the PPD has no choice " + Readable(option.value, true) + " of it" +
-               (nearest ? "; did you mean " + *nearest + "?" : "");
+        return "the PPD has no choice " + shown + " of it" + (nearest ? "; did you mean " + *nearest + "?" : "");
     }
     return {};
 }
@@ -152,6 +153,20 @@ static std::string NearestOption(const Call &call, const std::string &name)
     std::string inFull = kTicketPrefix;
     inFull += *nearest;
     return FindTicketMeaning(inFull) ? inFull : *nearest;
+}
+
+// Whether the option, or the one that a wrong name was meant for, carries a password.
+static bool IsSecret(const Call &call, const std::string &name)
+{
+    if (strcasecmp(name.c_str(), "job-password") == 0 ||
+        std::ranges::any_of(call.ppd.secretOptions, [&name](const std::string &secret) {
+            return strcasecmp(secret.c_str(), name.c_str()) == 0;
+        }))
+        return true;
+    if (const TicketMeaning *ticket = FindTicketMeaning(name))
+        return ticket->values == "password";
+    const std::string nearest = IsQueueOption(call, name.c_str()) ? "" : NearestOption(call, name);
+    return !nearest.empty() && nearest != name && IsSecret(call, nearest);
 }
 
 // Prints why the option changed nothing. Returns whether that is its own fault.
@@ -196,12 +211,12 @@ int OptionsCommand(int argc, char **argv)
         const cups_option_t &option = call.options[i];
         Explanation without;
         ExplainCall(call, i, without);
-        PrintHeading(paper, Readable(IsNegated(call, option) ? "no" + std::string(option.name)
-                                                             : std::string(option.name) + "=" + option.value,
-                                     true));
-        const std::string trouble = ChoiceTrouble(call, option);
+        const std::string value = IsSecret(call, option.name) ? "(secret)" : Readable(option.value, true);
+        const std::string name = Readable(option.name, true);
+        PrintHeading(paper, IsNegated(call, option) ? "no" + name : name + "=" + value);
+        const std::string trouble = ChoiceTrouble(call, option, value);
         if (!trouble.empty())
-            PrintEntry(paper, '!', option.value, trouble);
+            PrintEntry(paper, '!', value, trouble);
         if (PrintGains(paper, all, without) == 0 && trouble.empty() && PrintNothing(paper, call, option))
             status = kDifferent;
         if (!trouble.empty())

@@ -1,5 +1,6 @@
 #include "QueuePPD.h"
 
+#include <cstring>
 #include <cups/ppd.h>
 #include <memory>
 #include <unistd.h>
@@ -12,15 +13,17 @@ struct PPDCloser {
 };
 using PPDFile = std::unique_ptr<ppd_file_t, PPDCloser>;
 
-static std::vector<QueueOption> OptionsOf(ppd_file_t *ppd)
+static void TakeOptions(ppd_file_t *file, QueuePPD &ppd)
 {
-    std::vector<QueueOption> options;
-    for (const ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd)) {
-        options.push_back({option->keyword, {}, ppdFindCustomOption(ppd, option->keyword) != nullptr});
+    for (const ppd_option_t *option = ppdFirstOption(file); option; option = ppdNextOption(file)) {
+        ppd.options.push_back({option->keyword, {}, ppdFindCustomOption(file, option->keyword) != nullptr});
         for (int i = 0; i < option->num_choices; i++)
-            options.back().choices.emplace_back(option->choices[i].choice);
+            ppd.options.back().choices.emplace_back(option->choices[i].choice);
     }
-    return options;
+    for (const ppd_attr_t *row = ppdFindAttr(file, "OVTicket", nullptr); row;
+         row = ppdFindNextAttr(file, "OVTicket", nullptr))
+        if (row->value && strstr(row->value, "{password}"))
+            ppd.secretOptions.emplace_back(row->spec, strcspn(row->spec, "."));
 }
 
 bool FindQueuePPD(const char *queueOrPPD, QueuePPD &ppd)
@@ -35,7 +38,7 @@ bool FindQueuePPD(const char *queueOrPPD, QueuePPD &ppd)
     }
     const PPDFile file(ppdOpenFile(ppd.path.c_str()));
     if (file)
-        ppd.options = OptionsOf(file.get());
+        TakeOptions(file.get(), ppd);
     return file != nullptr;
 }
 

@@ -20,6 +20,7 @@ struct QueuePPD {
     std::string path;
     bool isTemporary = false;
     std::vector<QueueOption> options;
+    std::vector<std::string> secretOptions; // whose value the PPD's rows make a password of
 };
 
 // The PPD of that file or, when there is no such file, of the queue of that name. Returns false when neither is there.

@@ -126,14 +126,20 @@ static void PrintLine(const Paper &paper, char mark, const ExplainedLine &line)
 
 static void PrintGroup(const Paper &paper, const std::string &group, const Explanation &explanation)
 {
-    bool isFirst = true;
+    bool isFirst = group != kHoldGroup;
+    if (!isFirst) {
+        PrintHeading(paper, group);
+        if (!explanation.hold.brief.empty())
+            PrintLine(paper, ' ', explanation.hold);
+    }
     for (const ExplainedLine &line : explanation.lines) {
-        if (line.group != group)
+        // A line that nothing but its trouble can be said of stands among the remarks.
+        if (line.group != group || (group.empty() && line.known))
             continue;
         if (isFirst)
             PrintHeading(paper, group.empty() ? "Not explained" : group);
         isFirst = false;
-        const bool isMarked = line.remarkable || !line.known || !line.trouble.empty();
+        const bool isMarked = line.remarkable || line.doubtful || !line.known || !line.trouble.empty();
         PrintLine(paper, isMarked ? '!' : ' ', line);
     }
 }
@@ -149,8 +155,7 @@ void PrintExplanation(const Paper &paper, const std::string &name, const Explana
 {
     const Job &job = explanation.job;
     PrintColoured(paper, "1", Readable(name, true));
-    printf(": %s, %llu bytes\n", explanation.whole ? "a whole job" : "not a whole job of this filter",
-           static_cast<unsigned long long>(job.bytes));
+    printf(": %s, %llu bytes\n", WholeInWords(explanation), static_cast<unsigned long long>(job.bytes));
     PrintRemarks(paper, explanation.remarks);
     PrintGroup(paper, "", explanation);
     const std::string *last = nullptr;
@@ -225,9 +230,27 @@ static std::vector<std::pair<std::string, std::string>> MissingFacts(const Expla
     return facts;
 }
 
-static size_t PrintOneSide(const Paper &paper, char mark, const Explanation &one, const Explanation &other)
+// Passwords that differ, of which both jobs say the same in words: told once, and taken out of what each side has.
+static size_t PrintOtherPasswords(const Paper &paper, std::vector<const ExplainedLine *> &ones,
+                                  std::vector<const ExplainedLine *> &others, bool withKey)
 {
-    const auto lines = Missing(one, other);
+    return std::erase_if(ones, [&](const ExplainedLine *one) {
+        const auto found = std::ranges::find_if(others, [one](const ExplainedLine *other) {
+            return !one->secret.empty() && other->name == one->name && other->words == one->words &&
+                   other->trouble == one->trouble;
+        });
+        if (found == others.end())
+            return false;
+        others.erase(found);
+        PrintEntry(paper, '!', one->brief,
+                   withKey ? "the two passwords differ" : "the two passwords have different lengths");
+        return true;
+    });
+}
+
+static size_t PrintOneSide(const Paper &paper, char mark, const std::vector<const ExplainedLine *> &lines,
+                           const Explanation &one, const Explanation &other)
+{
     const auto facts = MissingFacts(one, other);
     for (const ExplainedLine *line : lines)
         PrintLine(paper, mark, *line);
@@ -238,15 +261,14 @@ static size_t PrintOneSide(const Paper &paper, char mark, const Explanation &one
 
 bool PrintDifferences(const Paper &paper, const Explanation &one, const Explanation &other, bool withKey)
 {
-    size_t count = PrintOneSide(paper, '<', one, other) + PrintOneSide(paper, '>', other, one);
+    auto ones = Missing(one, other), others = Missing(other, one);
+    size_t count = PrintOtherPasswords(paper, ones, others, withKey);
+    count += PrintOneSide(paper, '<', ones, one, other) + PrintOneSide(paper, '>', others, other, one);
     if (one.job.document.digest != other.job.document.digest) {
         puts("The documents differ.");
         count++;
     }
-    if (one.whole != other.whole) {
-        printf("Only the %s job is whole.\n", one.whole ? "first" : "second");
-        count++;
-    }
+    count += one.whole != other.whole;
     if (count == 0)
         printf("The jobs say the same%s.\n",
                withKey ? "" : "; without --key, passwords are compared by their length only");
@@ -258,7 +280,7 @@ size_t PrintGains(const Paper &paper, const Explanation &with, const Explanation
     const auto lines = Missing(with, without);
     size_t count = lines.size();
     for (const ExplainedLine *line : lines)
-        PrintLine(paper, line->trouble.empty() ? ' ' : '!', *line);
+        PrintLine(paper, line->trouble.empty() && !line->doubtful ? ' ' : '!', *line);
     for (const ExplainedLine *line : Missing(without, with)) {
         if (std::ranges::any_of(lines, [line](const ExplainedLine *gained) { return gained->name == line->name; }))
             continue;

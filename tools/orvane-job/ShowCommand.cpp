@@ -1,5 +1,6 @@
 // show and diff: what one job says, and what differs between two.
 #include "Commands.h"
+#include "Readable.h"
 #include "Report.h"
 
 #include <cerrno>
@@ -100,10 +101,16 @@ static bool Explain(const char *path, const JobArguments &arguments, Explanation
     return true;
 }
 
-// Prints the lines that the tool has no words for.
-static int CheckLines(const Explanation &explanation)
+// Prints that the job was cut, and the lines that the tool has no words for.
+static int Check(const std::string &name, const Explanation &explanation)
 {
+    const Job &job = explanation.job;
     int status = kFine;
+    if (!job.begins || (job.entered && !job.left) || !job.ended) {
+        printf("%s: not a whole job: its %s is missing\n", Readable(name, true).c_str(),
+               job.begins ? "end" : "beginning");
+        status = kDifferent;
+    }
     for (const ExplainedLine &line : explanation.lines) {
         if (line.known)
             continue;
@@ -127,7 +134,7 @@ int ShowCommand(int argc, char **argv)
         return kTrouble;
     const std::string name = path ? path : "standard input";
     if (arguments.check)
-        return CheckLines(explanation);
+        return Check(name, explanation);
     if (arguments.json)
         PrintJSON(name, explanation);
     else
@@ -146,5 +153,7 @@ int DiffCommand(int argc, char **argv)
     Explanation one, other;
     if (!Explain(argv[optind], arguments, one) || !Explain(argv[optind + 1], arguments, other))
         return kTrouble;
+    printf("< %s: %s\n", Readable(argv[optind], true).c_str(), WholeInWords(one));
+    printf("> %s: %s\n", Readable(argv[optind + 1], true).c_str(), WholeInWords(other));
     return PrintDifferences(PaperOfStandardOutput(), one, other, arguments.key != nullptr) ? kDifferent : kFine;
 }
