@@ -90,7 +90,7 @@ class Docs(unittest.TestCase):
 
     def test_tool_explains_every_line_of_the_tables(self):
         features = [feature.split(" ", 2)[2] for feature in self.read["feature"]]
-        job = "\x1b%-12345X@PJL JOB MODE=PRINTER\r\n" + "\n".join(self.read["line"] + features) + "\n"
+        job = "\x1b%-12345X@PJL JOB MODE=PRINTER\r\n" + "\n".join(self.read["line"] + features) + "\n\x1b%-12345X@PJL EOJ\n"
         done = subprocess.run([TOOL, "show", "--check"], input=job, capture_output=True, text=True)
         self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
         self.assertGreater(len(self.read["line"]), 100)

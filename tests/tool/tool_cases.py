@@ -111,6 +111,8 @@ class damaged(Tool):
             self.assertIn(b"standard input: ", done.stderr or done.stdout)
             self.assertTrue(done.stderr or b"Worth a look" in done.stdout, job[:length])
             self.assertNotIn(b": a whole job", done.stdout)
+            check = subprocess.run([TOOL, "show", "--check"], input=job[:length], capture_output=True)
+            self.assertEqual((check.returncode, b" is missing\n" in check.stdout), (1, True) if done.stdout else (2, False))
 
     def test_noise_is_read_to_its_end(self):
         noise = bytes(range(256)) * 40
@@ -176,10 +178,11 @@ class calls(Tool):
         same = b"The jobs say the same"
         self.assertIn(same + b"; without --key", self.run_tool("diff", "one", "two").stdout)
         self.assertIn(same, self.run_tool("diff", "one", "other").stdout)
-        self.assertEqual(self.run_tool("diff", "--key", KEY, "one", "two").stdout, same + b".\n")
-        for told in (self.run_tool("diff", "--key", KEY, "one", "other", status=1),
-                     self.run_tool("diff", "one", "longer", status=1)):
-            self.assertEqual(re.findall(b"^[<>] [A-Z]+", told.stdout, re.M), [b"< HOLDENCRYPTKEY", b"> HOLDENCRYPTKEY"])
+        self.assertEqual(self.run_tool("diff", "--key", KEY, "one", "two").stdout, b"< one: a whole job\n> two: a whole job\n" + same + b".\n")
+        for *arguments, said in (["--key", KEY, "one", "other", b"the two passwords differ\n"],
+                                 ["one", "longer", b"the two passwords have different lengths\n"]):
+            told = self.run_tool("diff", *arguments, status=1).stdout.splitlines(keepends=True)
+            self.assertEqual((told[2:], len(told)), ([b"! HOLDENCRYPTKEY=(secret)         " + said], 3))
 
     def test_documents_come_out_as_they_went_in(self):
         document = b"%!PS\r%%BeginFeature: *OVSetTrapMode True\r\n\x1b\0\n" + bytes(range(5, 256)) + b"\n\x04\nep\n"
@@ -268,6 +271,9 @@ class calls(Tool):
                           ["diff", "--json", "a", "b"], ["--version", "a"]):
             done = self.run_tool(*arguments, status=2)
             self.assertEqual((done.stdout, b"Usage: orvane-job show" in done.stderr), (b"", True), arguments)
+        self.assertIn(b"orvane-job: shwo: unknown command\n", self.run_tool("shwo", status=2).stderr)
+        for command in ("show", "diff", "password", "options"):
+            self.assertEqual(self.run_tool(command, "--help").stdout, self.run_tool("--help").stdout)
         for arguments in (["show", "none"], ["show", "."], ["diff", "none", "none"], ["options", "none", "a=b"]):
             done = self.run_tool(*arguments, status=2, CUPS_SERVER="/none")
             self.assertRegex(done.stderr, b"^orvane-job: [^\n]+: [^\n]+\n$")

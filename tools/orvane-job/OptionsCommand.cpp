@@ -155,18 +155,18 @@ static std::string NearestOption(const Call &call, const std::string &name)
     return FindTicketMeaning(inFull) ? inFull : *nearest;
 }
 
-// Whether the option, or the one that a wrong name was meant for, carries a password.
+// Whether the option, or the one that a wrong name may be meant for, carries a password.
 static bool IsSecret(const Call &call, const std::string &name)
 {
-    if (strcasecmp(name.c_str(), "job-password") == 0 ||
-        std::ranges::any_of(call.ppd.secretOptions, [&name](const std::string &secret) {
-            return strcasecmp(secret.c_str(), name.c_str()) == 0;
-        }))
-        return true;
     if (const TicketMeaning *ticket = FindTicketMeaning(name))
         return ticket->values == "password";
-    const std::string nearest = IsQueueOption(call, name.c_str()) ? "" : NearestOption(call, name);
-    return !nearest.empty() && nearest != name && IsSecret(call, nearest);
+    std::vector<std::string> secrets = call.ppd.secretOptions;
+    secrets.emplace_back("job-password");
+    if (IsQueueOption(call, name.c_str()))
+        return std::ranges::any_of(
+            secrets, [&name](const std::string &secret) { return strcasecmp(secret.c_str(), name.c_str()) == 0; });
+    const TicketMeaning *meant = FindTicketMeaning(NearestOption(call, name));
+    return NearestName(name, secrets) || (meant && meant->values == "password");
 }
 
 // Prints why the option changed nothing. Returns whether that is its own fault.
