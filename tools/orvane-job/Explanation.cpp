@@ -192,8 +192,10 @@ static std::vector<JobLine> Untangled(const std::vector<JobLine> &lines)
 {
     std::vector<JobLine> separate;
     for (JobLine line : lines) {
-        for (size_t next; separate.size() < kMaxLines && !TakeApart(line).trouble.empty() &&
-                          (next = line.bytes.find(kPJL, 1)) != std::string::npos;) {
+        while (separate.size() < kMaxLines && !TakeApart(line).trouble.empty()) {
+            const size_t next = line.bytes.find(kPJL, 1);
+            if (next == std::string::npos)
+                break;
             separate.push_back({line.bytes.substr(0, next), line.offset, false});
             line = {line.bytes.substr(next), line.offset + next, line.ended};
         }
