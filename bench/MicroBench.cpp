@@ -1,6 +1,7 @@
 // The line reader, the line builder and the text conversion on their own.
 
 #include "CommandBuilder.h"
+#include "CommandTable.h"
 #include "OutputSink.h"
 #include "PSLineReader.h"
 #include "TextEncoding.h"
@@ -55,8 +56,8 @@ BENCHMARK(SpooledLines)->Arg(20)->Arg(60)->Arg(1000)->Arg(20000);
 
 static void BuildLine(benchmark::State &state)
 {
-    const void *const values[] = {&CTRLSym_DOUBLE, "taro", &CTRLSym_DOUBLE, &CTRLSym_CR, &CTRLSym_LF};
-    const CmdParaTable table = {5, values};
+    static constexpr const void *values[] = {Quote, "taro", Quote, CR, LF};
+    constexpr CmdParaTable table = Values(values);
     char line[kCommandLineSize];
     for (auto _ : state) {
         BuildPrintComand("@PJL SET JOBATTR=%c@JOAU=%s%c%c%c", &table, line, sizeof line);
@@ -65,7 +66,7 @@ static void BuildLine(benchmark::State &state)
 }
 BENCHMARK(BuildLine);
 
-static void ConvertText(benchmark::State &state, int32_t (*convert)(const char *, char *, int32_t), const char *text)
+static void ConvertText(benchmark::State &state, int32_t (*convert)(const char *, void *, int32_t), const char *text)
 {
     char converted[255];
     for (auto _ : state)
