@@ -1,6 +1,5 @@
 #include "WatermarkEndPage.h"
 
-#include "BoundedText.h"
 #include "OutputSink.h"
 #include "Platform.h"
 #include "TextEncoding.h"
@@ -120,20 +119,6 @@ WatermarkText ReadWatermarkText(std::string_view text)
     return read;
 }
 
-// A PostScript string that can't end before its end.
-static std::string Literal(std::string_view bytes)
-{
-    std::string literal = "(";
-    for (const char byte : bytes) {
-        char code[8];
-        if (byte < ' ' || byte > '~' || byte == '(' || byte == ')' || byte == '\\')
-            literal.append(code, FormatCut(code, "\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte))));
-        else
-            literal += byte;
-    }
-    return literal + ")";
-}
-
 static bool IsAbsent(auto number)
 {
     return number == -1;
@@ -142,6 +127,11 @@ static bool IsAbsent(auto number)
 static auto Or(auto number, decltype(number) whenAbsent)
 {
     return IsAbsent(number) ? whenAbsent : number;
+}
+
+static std::string Literal(std::string_view bytes)
+{
+    return std::string("(").append(InPostScriptString(bytes)).append(")");
 }
 
 [[gnu::format(printf, 1, 2)]] static std::string Formatted(const char *format, ...)

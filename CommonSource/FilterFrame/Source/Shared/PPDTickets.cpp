@@ -75,13 +75,10 @@ struct PPDRow {
     const char *given;
 };
 
-// An option of the job with its value. own: whether the value is none of the choices, of an option that has a custom
-// one.
+// An option of the job with its value.
 struct Setting {
     const char *option;
     const char *value;
-    bool hasCustomChoice;
-    bool own;
 };
 using Settings = std::map<std::string_view, Setting, WithoutCase>;
 
@@ -111,10 +108,10 @@ static bool IsChoice(const char *option, std::string_view value)
                                [value](const ppd_choice_t &choice) { return EqualWithoutCase(choice.choice, value); });
 }
 
-static void AddSetting(Settings &settings, const char *option, const char *value)
+// Whether the value is none of the choices, of an option that has a custom one.
+static bool IsOwnText(const Setting &setting)
 {
-    const bool hasCustomChoice = PPDHasCustomChoice(option);
-    settings.insert({option, {option, value, hasCustomChoice, hasCustomChoice && !IsChoice(option, value)}});
+    return PPDHasCustomChoice(setting.option) && !IsChoice(setting.option, setting.value);
 }
 
 static bool IsFor(const PPDRow &row, const Setting &setting)
@@ -122,18 +119,19 @@ static bool IsFor(const PPDRow &row, const Setting &setting)
     if (!row.choice || EqualWithoutCase(*row.choice, setting.value))
         return true;
     return EqualWithoutCase(*row.choice, kCustomChoice) &&
-           (setting.own || BeginsWithoutCase(setting.value, kCustomPrefix));
+           (BeginsWithoutCase(setting.value, kCustomPrefix) || IsOwnText(setting));
 }
 
 // The value, of a custom choice what was typed.
 static std::string_view TypedText(const PPDRow &row, const Setting &setting)
 {
     const std::string_view value = setting.value;
-    if (!setting.hasCustomChoice && !(row.choice && EqualWithoutCase(*row.choice, kCustomChoice)))
+    const bool hasCustomChoice = PPDHasCustomChoice(setting.option);
+    if (!hasCustomChoice && !(row.choice && EqualWithoutCase(*row.choice, kCustomChoice)))
         return value;
     if (BeginsWithoutCase(value, kCustomPrefix))
         return value.substr(sizeof kCustomPrefix - 1);
-    return setting.hasCustomChoice && EqualWithoutCase(value, kCustomChoice) ? "" : value;
+    return hasCustomChoice && EqualWithoutCase(value, kCustomChoice) ? "" : value;
 }
 
 std::string WithoutControls(std::string_view text)
@@ -168,15 +166,7 @@ std::string PostScriptString(std::string_view text)
     const bool latin1 = std::ranges::all_of(units, [](char16_t unit) { return unit <= 0xFF; });
     std::string string = "(";
     for (const char16_t unit : units) {
-        std::string character;
-        for (const char byte : InISOLatin1OrShiftJIS(unit, latin1)) {
-            char code[] = "\\ooo";
-            if (byte < 0x20 || byte > 0x7E || strchr("()\\", byte))
-                FormatCut(code, "\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte)));
-            else
-                CopyCut(code, {&byte, 1});
-            character += code;
-        }
+        const std::string character = InPostScriptString(InISOLatin1OrShiftJIS(unit, latin1));
         if (string.size() + character.size() + 1 > kPostScriptStringMaxLength)
             break;
         string += character;
@@ -282,8 +272,12 @@ static void AddGiven(Completion &completion, const PPDRow &row, const Setting &s
 
 static void AddRowsFor(Completion &completion, const std::vector<PPDRow> &rows, const Settings &settings)
 {
+    // Rows of one option mostly stand together.
+    auto setting = settings.end();
+    std::string_view option;
     for (const PPDRow &row : rows) {
-        const auto setting = settings.find(row.option);
+        if (row.option != option)
+            setting = settings.find(option = row.option);
         if (setting != settings.end() && IsFor(row, setting->second))
             AddGiven(completion, row, setting->second);
     }
@@ -295,7 +289,7 @@ static Settings DefaultsOfPPD(const Settings &named)
     for (const PPDDefault &option : PPDDefaults())
         if (!named.contains(option.keyword) &&
             (strcmp(option.choice, kUnknownDefault) != 0 || IsChoice(option.keyword, option.choice)))
-            AddSetting(defaults, option.keyword, option.choice);
+            defaults.insert({option.keyword, {option.keyword, option.choice}});
     return defaults;
 }
 
@@ -308,7 +302,7 @@ std::string AddPPDTickets(const char *const *argv, JobOptions &options)
 
     Completion completion = {argv, {}, {}};
     for (int32_t i = 0; i < options.count; i++)
-        AddSetting(completion.named, options.list[i].name, options.list[i].value);
+        completion.named.insert({options.list[i].name, {options.list[i].name, options.list[i].value}});
     AddRowsFor(completion, rows, completion.named);
     if (sendDefaults) {
         const Settings defaults = DefaultsOfPPD(completion.named);

@@ -72,6 +72,19 @@ bool checkIfCharacterIsMultibyte(const char *text)
     return false;
 }
 
+std::string InPostScriptString(std::string_view bytes)
+{
+    std::string characters;
+    for (const char byte : bytes) {
+        char code[sizeof "\\ooo"];
+        if (byte < ' ' || byte > '~' || byte == '(' || byte == ')' || byte == '\\')
+            characters.append(code, FormatCut(code, "\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte))));
+        else
+            characters += byte;
+    }
+    return characters;
+}
+
 size_t UTF8BytesOfUnits(std::string_view text, size_t units)
 {
     for (size_t i = 0; i < text.size(); i++) {

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 // Encoding numbers of the PPD converter.
@@ -28,6 +29,10 @@ uint32_t GetCFStringSimEncodingFromPPD(const ppd_file_t *ppd);
 
 // True when the text holds a character that Shift-JIS can't carry.
 bool checkIfCharacterIsMultibyte(const char *text);
+
+// The bytes as they stand in a string of PostScript (PostScript Language Reference, 3.2.2), its parentheses left out:
+// what is not printable ASCII, parentheses and backslashes as \ooo.
+std::string InPostScriptString(std::string_view bytes);
 
 // The bytes that the first `units` UTF-16 units of valid UTF-8 text take; half of a surrogate pair takes none.
 size_t UTF8BytesOfUnits(std::string_view text, size_t units);
