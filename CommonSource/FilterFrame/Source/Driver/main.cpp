@@ -9,7 +9,8 @@ int main(int argc, char **argv)
 #ifdef __SANITIZE_ADDRESS__
     return status; // what leaked is looked for after main
 #else
-    // What libraries would tidy up costs a small job a twentieth of its time. A cancelled job's spool file is still open.
+    // What libraries would tidy up costs a small job a twentieth of its time. A cancelled job's spool file is still
+    // open.
     fflush(nullptr);
     _exit(status);
 #endif
