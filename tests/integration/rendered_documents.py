@@ -1,7 +1,7 @@
 """Ghostscript as the printer: watermarks on documents of many producers, which the print system's own filters have laid
 out. Every page is marked, and nothing else changes by a pixel.
 
-usage: rendered_documents.py FILTER PPD [FOLDER]: with a folder, the rendered pages are left there.
+usage: rendered_documents.py FILTER PPD [FOLDER]: with a folder, the pages that were wrong are left there.
 """
 
 import functools
@@ -19,8 +19,9 @@ FILTER, PPD, *KEEP = sys.argv[1:]
 DPI = 20
 MARK = {"Name": "a", "Type": 0, "OnlyFirst": 0, "Text": "(DRAFT)", "Font": "Helvetica-Bold", "FontSize": 90,
         "ColorR": 0.8, "ColorG": 0.2, "ColorB": 0.2, "Density": 100, "Angle": 45}
+FIRST_ONLY = MARK | {"OnlyFirst": 1}
 COLOUR = "0.8 0.2 0.2"  # no byte of it is 255, which is what blank pixels consist of
-A4, LETTER, WIDE = (595, 842), (612, 792), (842, 595)
+A4, LETTER, WIDE, TINY = (595, 842), (612, 792), (842, 595), (18, 18)
 
 # Three pages for groff, of which every other producer makes its document.
 SOURCE = b".ps 24\n.vs 30\nOne\n.bp\nTwo\n.bp\nThree\n"
@@ -31,21 +32,42 @@ def run(*command, data=b"", environment=None):
                           env=environment).stdout
 
 
-def filtered(document, tickets, ppd=PPD):
+def filtered(document, tickets, ppd):
     options = " ".join(f"com.orvane.dlg.printsettings.WMARK{key}Ticket={value}" for key, value in tickets.items())
     job = run(FILTER, 1, "taro", "Report", 1, options, data=document,
               environment={"PATH": os.defpath, "TMPDIR": tempfile.gettempdir(), "PPD": ppd})
     return job.split(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n", 1)[1].rsplit(b"\x04", 1)[0]
 
 
-def rendered(postscript):
-    """The pages: width, height and the bytes of their pixels."""
+# Runs the files of these names as a printer does: what one does to the interpreter is undone before the next. After each
+# comes a tiny page.
+JOBS = """%%!
+/run_alone{/jobsave save def(r)file cvx stopped{handleerror}if clear cleardictstack false setglobal
+userdict/jobsave get restore}bind def
+[%s]{run_alone/jobsave save def<</PageSize[%d %d]>>setpagedevice showpage jobsave restore}forall
+"""
+
+
+def rendered(documents):
+    """The pages of each document, by one Ghostscript: width, height and the bytes of their pixels."""
     with tempfile.TemporaryDirectory() as folder:
-        run("gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=ppmraw", f"-r{DPI}", f"-sOutputFile={folder}/%03d",
-            "-", data=postscript)
-        pages = [path.read_bytes() for path in sorted(Path(folder).iterdir())]
-    heads = [re.match(rb"P6\s(?:#.*\n)?(\d+) (\d+)\s255\s", page) for page in pages]
-    return [(int(head[1]), int(head[2]), page[head.end():]) for head, page in zip(heads, pages)]
+        files = [Path(folder, f"{number}.ps") for number in range(len(documents))]
+        for file, document in zip(files, documents):
+            file.write_bytes(document)
+        jobs = JOBS % ("".join(f"({file})" for file in files), *TINY)
+        said = run("gs", "-q", "-dSAFER", f"--permit-file-read={folder}/*.ps", "-dBATCH", "-dNOPAUSE",
+                   "-sDEVICE=ppmraw", f"-r{DPI}", f"-sOutputFile={folder}/%06d.ppm", "-", data=jobs.encode())
+        pictures = [path.read_bytes() for path in sorted(Path(folder).glob("*.ppm"))]
+    assert not said, said
+    pages = [[]]
+    for picture in pictures:
+        head = re.match(rb"P6\s(?:#.*\n)?(\d+) (\d+)\s255\s", picture)
+        width, height = int(head[1]), int(head[2])
+        if width == TINY[0] * DPI // 72:
+            pages.append([])
+        else:
+            pages[-1].append((width, height, picture[head.end():]))
+    return dict(zip(documents, pages[:-1], strict=True))
 
 
 def centred(size, show="(DRAFT)", font="/Helvetica-Bold findfont", place="36 mul exch 36 mul exch translate", angle=45):
@@ -53,11 +75,6 @@ def centred(size, show="(DRAFT)", font="/Helvetica-Bold findfont", place="36 mul
     width, height = size
     return (f"%!\n<</PageSize[{width} {height}]>>setpagedevice {COLOUR} setrgbcolor {width / 72} {height / 72} {place} "
             f"{font} 90 scalefont setfont {angle} rotate {show} dup stringwidth pop -2 div -31.5 moveto show showpage")
-
-
-@functools.cache
-def mark_of(postscript):
-    return rendered(postscript.encode())[0]
 
 
 def over(page, mark):
@@ -70,17 +87,26 @@ def over(page, mark):
 
 
 class RenderedDocuments(unittest.TestCase):
-    def check(self, document, sizes, tickets=MARK, mark=centred, ppd=PPD):
-        """The pages have these sizes and are marked but where the size is None; they are the document's otherwise."""
-        plain, marked = (rendered(filtered(document, given, ppd)) for given in ({}, tickets))
-        if KEEP:
-            for number, (width, height, pixels) in enumerate(marked):
-                path = Path(KEEP[0], f"{self.id().split('.')[-1]}-{getattr(self, 'label', '')}-{number}.ppm")
-                path.write_bytes(b"P6 %d %d 255\n" % (width, height) + pixels)
-        self.assertEqual(len(marked), len(sizes))
-        for number, (before, after, size) in enumerate(zip(plain, marked, sizes, strict=True), 1):
-            expected = over(before, mark_of(mark(size))) if size else before
-            self.assertTrue(after == expected, f"page {number}")
+    def check(self, *rows):
+        """A row is a label, a document, the sizes of its pages, None for those that are not marked, and, where they are
+        others: tickets, the mark of a page of a size, PPD. But for the marks, the pages are the document's."""
+        defaults = (MARK, centred, PPD)
+        jobs = []
+        for label, document, sizes, *others in rows:
+            tickets, mark, ppd = (*others, *defaults[len(others):])
+            marks = [size and mark(size).encode() for size in sizes]
+            jobs.append((label, filtered(document, {}, ppd), filtered(document, tickets, ppd), marks))
+        pages = rendered(list(dict.fromkeys(
+            document for _, plain, marked, marks in jobs for document in (plain, marked, *filter(None, marks)))))
+        for label, plain, marked, marks in jobs:
+            with self.subTest(label):
+                expected = [over(page, pages[mark][0]) if mark else page
+                            for page, mark in zip(pages[plain], marks, strict=True)]
+                wrong = [n for n, pair in enumerate(zip(pages[marked], expected, strict=True), 1) if len(set(pair)) > 1]
+                for n in wrong if KEEP else []:
+                    width, height, pixels = pages[marked][n - 1]
+                    Path(KEEP[0], f"{label}-{n}.ppm").write_bytes(b"P6 %d %d 255\n" % (width, height) + pixels)
+                self.assertEqual(wrong, [], "pages")
 
     def laid_out(self, document, kind, *options, ppd=PPD):
         with tempfile.NamedTemporaryFile() as file:
@@ -107,11 +133,10 @@ class RenderedDocuments(unittest.TestCase):
                  for renderer in ("gs", "pdftops", "pdftocairo", "hybrid")])
 
     def test_every_producer(self):
-        for name, kind, renderer, document in self.producers:
-            for up, pages in ((1, 3), (2, 2), (4, 1)):
-                with self.subTest(name, up=up):
-                    self.label = f"{name}-{up}"
-                    self.check(self.laid_out(document, kind, renderer, f"number-up={up}"), [A4] * pages)
+        up = {"groff": (1, 2, 4), "PDF by gs": (1, 2, 4)}  # pages of a sheet; pstops puts them there, and pdftopdf
+        self.check(*((f"{name}, {n} on a sheet", self.laid_out(document, kind, renderer, f"number-up={n}"),
+                      [A4] * -(-3 // n)) for name, kind, renderer, document in self.producers
+                     for n in up.get(name, (1,))))
 
     def test_copies_and_both_sides(self):
         """Collated copies of three pages on both sides, in reversed order: the fourth side is blank."""
@@ -119,9 +144,9 @@ class RenderedDocuments(unittest.TestCase):
         groff = self.producers[0][3]
         with tempfile.NamedTemporaryFile() as ppd:
             laid_out = self.laid_out(groff, "postscript", *reverse, ppd=without_collate(PPD, ppd.name))
-        self.check(laid_out, [None, A4, A4, A4] * 2)
-        self.check(laid_out, [None, A4] + [None] * 6, MARK | {"OnlyFirst": 1})
-        self.check(self.laid_out(groff, "postscript", "copies=2"), [A4] * 6)
+        self.check(("every page", laid_out, [None, A4, A4, A4] * 2),
+                   ("the first page", laid_out, [None, A4] + [None] * 6, FIRST_ONLY),
+                   ("two copies", self.laid_out(groff, "postscript", "copies=2"), [A4] * 6))
 
     def test_documents_of_any_kind(self):
         """What documents do to the page device, the graphics state, the stacks and the names around the procedure."""
@@ -133,6 +158,7 @@ class RenderedDocuments(unittest.TestCase):
                        "grestore}if}>>setpagedevice\n")
         names = "save restore put stopped mark array roll bind findfont setfont show moveto rotate"
         redefined = "".join(f"/{name}{{1 (redefined) ne}}def\n" for name in names.split())
+        rows = []
         for label, setup, pages, expected in (
                 ("sizes", paper, [page, wide, letter, page], [A4, WIDE, LETTER, LETTER]),
                 ("matrix", paper + "90 90 translate .5 .5 scale 30 rotate 9 setlinewidth[30 20]0 setdash\n",
@@ -152,16 +178,12 @@ class RenderedDocuments(unittest.TestCase):
                 ("names", paper + redefined, ["9 9 90 90 rectfill showpage\n"], [A4]),
                 ("no name left", paper + "/before userdict length FontDirectory length add def\n",
                  ["showpage\n", "userdict length FontDirectory length add before sub 0 ne{l}if showpage\n"], [A4] * 2)):
-            with self.subTest(label):
-                self.label = label
-                body = "".join(f"%%Page: {n} {n}\n{text}" for n, text in enumerate(pages, 1))
-                self.check(f"%!PS-Adobe-3.0\n%%EndComments\n{lines}%%BeginSetup\n{setup}%%EndSetup\n{body}%%Trailer\n"
-                           .encode(), expected)
-                self.check(f"%!PS-Adobe-3.0\n{lines}{setup}%%EndSetup\n{body}".encode(),
-                           [size and (None if any(expected[:n]) else size) for n, size in enumerate(expected)],
-                           MARK | {"OnlyFirst": 1})
-        self.label = "no comments"
-        self.check(f"%!\r\n% \r\n{lines}{paper}{page}{wide}".encode(), [A4, WIDE])
+            body = "".join(f"%%Page: {n} {n}\n{text}" for n, text in enumerate(pages, 1))
+            rows += [(label, f"%!PS-Adobe-3.0\n%%EndComments\n{lines}%%BeginSetup\n{setup}%%EndSetup\n{body}%%Trailer\n"
+                      .encode(), expected),
+                     (f"{label}, only the first page", f"%!PS-Adobe-3.0\n{lines}{setup}%%EndSetup\n{body}".encode(),
+                      [None if any(expected[:n]) else size for n, size in enumerate(expected)], FIRST_ONLY)]
+        self.check(("no comments", f"%!\r\n% \r\n{lines}{paper}{page}{wide}".encode(), [A4, WIDE]), *rows)
 
     def test_fonts_and_failures(self):
         """Accents, Shift-JIS for composite fonts, a font that fails: the page is there, and all that follows it."""
@@ -175,41 +197,36 @@ class RenderedDocuments(unittest.TestCase):
                      "findfont/Symbol findfont]>>definefont pop\n")
         failing = ("/F<</FontType 3/FontMatrix[.001 0 0 .001 0 0]/FontBBox[0 0 9 9]/Encoding StandardEncoding"
                    "/BuildChar{gsave 9 dict begin 9 dict begin 1 2 3 undefinedname}>>definefont pop\n")
-        self.label = "accents"
-        for text, shown in (("(caf\\\\351)", "(caf\\351)"), ("(\u00c4rger)", "(\\304rger)"),
-                            ("/40/195/137/41", "(\\311)")):
-            with self.subTest(text):
-                self.check(document(""), [A4] * 2, MARK | {"Text": text, "Font": "Times-Roman"},
-                           lambda size: centred(size, shown, latin))
+        accents = (("(caf\\\\351)", "(caf\\351)"), ("(\u00c4rger)", "(\\304rger)"), ("/40/195/137/41", "(\\311)"))
         # Shift-JIS A1 would be one byte of kana in a font of one byte; 00 41 01 42 are codes of two fonts.
-        with self.subTest("composite"):
-            self.label = "composite"
-            self.check(document(composite), [A4] * 2, MARK | {"Text": "(\\\\000A\\\\001a\u00e9)", "Font": "F"},
-                       lambda size: composite + centred(size, "(\\000A\\001a)", "/F findfont"))
-        with self.subTest("failure"):
-            self.label = "failure"
-            self.check(document(failing), [None] * 2, MARK | {"Font": "F"})
+        self.check(*((f"accents {text}", document(""), [A4] * 2, MARK | {"Text": text, "Font": "Times-Roman"},
+                      functools.partial(centred, show=shown, font=latin)) for text, shown in accents),
+                   ("composite", document(composite), [A4] * 2, MARK | {"Text": "(\\\\000A\\\\001a\u00e9)", "Font": "F"},
+                    lambda size: composite + centred(size, "(\\000A\\001a)", "/F findfont")),
+                   ("failure", document(failing), [None] * 2, MARK | {"Font": "F"}))
 
     def test_geometry_of_the_job(self):
         """Paper, box and offsets of the tickets place the mark, at page markers too, where no attribute asks for more."""
         markers = "/pgsave 0 def/bp{/pgsave save def}bind def/ep{pgsave restore showpage}bind def\n%%EndProlog\n"
         lines = "10 20 900{0 exch moveto 900 0 rlineto stroke}for\n"
+        rows = []
         for orientation, angle, across, up in ((1, 0, 20, -30), (1, 30, 0, 0), (3, 90, 0, 0), (1, 135, 0, 0),
                                                (1, 250, 25, -40), (2, 45, 0, 0), (4, 300, 0, 0)):
             size = A4 if orientation % 2 else WIDE
-            place = f"{size[0] / 2 + across} {size[1] / 2 + up} translate {angle} rotate"
             geometry = MARK | {"Orientation": orientation, "PaperWidth": A4[0], "PaperHeight": A4[1], "Width": 280,
                                "Height": 63, "hOffset": across, "vOffset": up, "Angle": angle}
-            paper = f"<</PageSize[{size[0]} {size[1]}]>>setpagedevice\n%%EndSetup\n"
+            paper = f"<</PageSize[{size[0]} {size[1]}]>>setpagedevice\n"
             page = f"%%Page: 1 1\nbp\n%%EndPageSetup\n{lines}ep\n"
-            document = f"%!PS-Adobe-3.0\n%%BeginProlog\n{markers}{paper}{page}{page}".encode()
+            document = f"%!PS-Adobe-3.0\n%%BeginProlog\n{markers}{paper}%%EndSetup\n{page}{page}".encode()
             by_the_printer = [] if angle else [(PPD, {}), (PPD, {"Width": -1}), (PPD, {"Height": -1})]
             for ppd, box in (("", {"OnlyFirst": 1}), *by_the_printer):
-                with self.subTest(orientation=orientation, angle=angle, ppd=ppd, box=box):
-                    left = "dup stringwidth pop -2 div" if box.get("Width") else "-140"
-                    self.check(document, [size, None if "OnlyFirst" in box else size], geometry | box, lambda size: (
-                        f"%!\n<</PageSize[{size[0]} {size[1]}]>>setpagedevice {COLOUR} setrgbcolor /Helvetica-Bold 90 "
-                        f"selectfont {place} (DRAFT) {left} -31.5 moveto show showpage"), ppd)
+                left = "dup stringwidth pop -2 div" if box.get("Width") else "-140"
+                mark = (f"%!\n{paper}{COLOUR} setrgbcolor /Helvetica-Bold 90 selectfont {size[0] / 2 + across} "
+                        f"{size[1] / 2 + up} translate {angle} rotate (DRAFT) {left} -31.5 moveto show showpage")
+                rows.append((f"orientation {orientation}, {angle} degrees, {box}, {'printer' if ppd else 'markers'}",
+                             document, [size, None if "OnlyFirst" in box else size], geometry | box,
+                             lambda _, mark=mark: mark, ppd))
+        self.check(*rows)
 
 
 if __name__ == "__main__":
