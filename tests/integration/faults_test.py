@@ -395,16 +395,18 @@ class Faults(unittest.TestCase):
                 self.assert_job(self.run_job(b"ep\n", environment={"PPD": str(path)}), b"ep\n\x04")
 
     def test_closed_descriptors(self):
-        for closed in ((0,), (0, 2), (1,), (0, 1, 2)):
-            with self.subTest(closed=closed):
-                process = self.start(program=COPYING_FILTER, preexec_fn=lambda: [os.close(fd) for fd in closed])
-                process.stdin.close()
-                output = process.stdout.read()
-                self.assertEqual(self.end(process), 0)
-                copy, = self.spool_files()
-                self.assert_job(copy.read_bytes(), b"\x04")
-                self.assertEqual(output, b"" if 1 in closed else copy.read_bytes())
-                copy.unlink()
+        """No file of the filter's takes their place: the output would go to the copy, the messages to the printer."""
+        self.ppds[True].write_text(PPD_HEAD + '*OVPSDecompMode: "1"\n*OVPageLogMethod: "PageComments"\n')
+        document = b"%!PS-Adobe-3.0\n%%Page: 1 1\n" + pages(9)
+        whole = [self.run_job(document, spooled=spooled) for spooled in (False, True)]
+        for closed, spooled in itertools.product(((0,), (0, 2), (1,), (0, 1, 2)), (False, True)):
+            with self.subTest(closed=closed, spooled=spooled):
+                output = self.run_job(document, spooled=spooled, program=FILTER if spooled else COPYING_FILTER,
+                                      preexec_fn=lambda: [os.close(fd) for fd in closed])
+                self.assertEqual(output, b"" if 1 in closed else whole[spooled])
+                for copy in self.spool_files():
+                    self.assertEqual(copy.read_bytes(), whole[False])
+                    copy.unlink()
 
     def test_long_options(self):
         longest = os.sysconf("SC_PAGESIZE") * 32 - 1

@@ -24,7 +24,7 @@ PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*La
             b'*LanguageEncoding: ISOLatin1\n')
 PREFIX = b"com.orvane.dlg.printsettings."
 DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1",
-            b"environment": b"LANG=C TZ=UTC TMPDIR={folder}"}
+            b"environment": b"LANG=C TZ=JST-9 TMPDIR={folder}"}
 TOKEN = re.compile(rb"""(?:\\\{\d+ .*?\}|\{blob:[^}]*\}|'[^']*'|"[^"]*"|\S)+""")
 CHOICE = re.compile(rb"\[([^][]*\|[^][]*)\]")
 
@@ -240,7 +240,7 @@ class job_copy(Jobs):
         self.folder.mkdir()
         now = time.time()  # a longer file has the copy's name already, whichever second of the next minutes that is
         for second in range(200):
-            name = time.strftime("wq%Y%m%d%H%M%S.job", time.gmtime(now + second))
+            name = time.strftime("wq%Y%m%d%H%M%S.job", time.gmtime(now + 9 * 3600 + second))
             (self.folder / name).write_bytes(b"old" * 1000)
         job = self.run_filter("taro", "Report", "1", "", program=COPYING_FILTER, document=b"ep\n")
         copy, = (path for path in self.folder.iterdir() if not path.read_bytes().startswith(b"old"))

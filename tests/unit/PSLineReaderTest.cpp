@@ -9,10 +9,9 @@
 #include <thread>
 #include <unistd.h>
 
-// A reading: what was written, lines of interest between < and >, then a NUL and the bytes after the last line end.
-
 static const PSWatch watch = {"%%BeginFeature:", {"TSCR", "TCPR"}};
 
+// A reading: what was written, lines of interest between < and >, then a NUL and the bytes after the last line end.
 static std::string ReadByteWise(const std::string &document)
 {
     std::string text, line;
@@ -20,7 +19,7 @@ static std::string ReadByteWise(const std::string &document)
         if (byte == '\r' || byte == '\n') {
             const bool ofInterest =
                 line.find_first_of("%besu") == 0 || line.find("TSCR") != line.npos || line.find("TCPR") != line.npos;
-            text.append(ofInterest ? "<" : "").append(line).append(ofInterest ? ">" : "") += byte;
+            text += (ofInterest ? '<' + line + '>' : line) + byte;
             line.clear();
         } else if ((line += byte).size() == 8065) {
             text += line;
@@ -49,10 +48,8 @@ static std::string ReadInBlocks(const std::string &document, size_t piece, unsig
         skipped--;
     while (NextPSLine(reader)) {
         WriteBeforePSLine(reader);
-        const std::string_view line = CurrentPSLine(reader);
-        fputc('<', out);
+        const std::string line = '<' + std::string(CurrentPSLine(reader)) + '>';
         fwrite(line.data(), 1, line.size(), out);
-        fputc('>', out);
         reader.written = reader.lineEnd;
     }
     fclose(out);
@@ -72,30 +69,22 @@ static std::string KnowingNoMoreThan(const std::string &other, std::string readi
     return reading;
 }
 
-static std::string RandomDocument(std::mt19937 &random)
+TEST(PSLineReader, ReadsRandomDocumentsAsAByteWiseReaderWould)
 {
-    static const std::vector<Row> pieces = Rows("document-pieces");
-    static const size_t runs[] = {1, 70, 8063, 8064, 8065, 8066, 8067, 16130, 20000, 65536};
-    std::string document;
-    for (unsigned long count = random() % 60; count > 0; count--) {
-        if (random() % 8 == 0)
-            document.append(runs[random() % std::size(runs)], "ax%"[random() % 3]);
-        else
-            document += pieces[random() % pieces.size()].given[0];
-    }
-    return document;
-}
-
-TEST(PSLineReader, ReadsAsAByteWiseReaderWould)
-{
+    const std::vector<Row> pieces = Rows("document-pieces");
+    const size_t runs[] = {1, 70, 8063, 8064, 8065, 8066, 8067, 16130, 20000, 65536};
+    const size_t offers[] = {1000000, 65536, 4096, 8065, 509};
     std::mt19937 random(20261122);
-    static const size_t pieces[] = {1000000, 65536, 4096, 8065, 509};
     for (int i = 0; i < 400; i++) {
-        const std::string document = RandomDocument(random);
-        const size_t piece = pieces[random() % std::size(pieces)];
-        const std::string reading = ReadByteWise(document);
-        ASSERT_TRUE(ReadInBlocks(document, piece, 0) == reading) << i;
-        const std::string late = ReadInBlocks(document, piece, 1 + random() % 3);
+        std::string document;
+        for (unsigned long count = random() % 60; count > 0; count--)
+            if (random() % 8 == 0)
+                document.append(runs[random() % std::size(runs)], "ax%"[random() % 3]);
+            else
+                document += pieces[random() % pieces.size()].given[0];
+        const size_t offer = offers[random() % std::size(offers)];
+        const std::string reading = ReadByteWise(document), late = ReadInBlocks(document, offer, 1 + random() % 3);
+        ASSERT_TRUE(ReadInBlocks(document, offer, 0) == reading) << i;
         ASSERT_TRUE(late == KnowingNoMoreThan(late, reading)) << i;
     }
 }
