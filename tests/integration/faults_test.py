@@ -329,11 +329,6 @@ class Faults(unittest.TestCase):
         self.assertEqual(copy.read_bytes(),
                          header.removesuffix(feature) + before + feature + line + after + ENTER + TRAILER)
 
-    def test_screen_value_across_the_hundredth_digit(self):
-        output = self.run_job(b"TCPR GCPR ICPR" + b" abcd 12" * 49 + b" abcd 3 abcd 45 abcd 6\n", spooled=True)
-        lines = [line for line in output.partition(ENTER)[0].split(b"\n") if b"abcd" in line]
-        self.assertEqual(lines, [b'@PJL SET JOBATTR="@abcd=%d"' % value for value in [12] * 49 + [3, 4]])
-
     def test_cancelled_while_the_printer_waits(self):
         document = pages(600)
         path = self.write("document.ps", document)
