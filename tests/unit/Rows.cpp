@@ -48,7 +48,7 @@ std::vector<Row> Rows(const std::string &table)
     for (std::string line; std::getline(file, line);) {
         number++;
         for (std::string rest; line.ends_with(" \\") && std::getline(file, rest); number++)
-            line.replace(line.size() - 1, 1, rest);
+            line.replace(line.size() - 1, 1, rest, std::min(rest.find_first_not_of(' '), rest.size()));
         const size_t arrow = line.find("=>");
         if (!line.empty() && line[0] != '#')
             rows.push_back(

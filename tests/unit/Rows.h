@@ -1,6 +1,6 @@
 // Rows: tables of what functions are given and what they answer, in data/rows/NAME.rows, one call a line:
 // "cell | cell => cell | cell". Blanks around a cell don't count; escapes are those of the job cases. A line that ends
-// with a blank and a backslash goes on in the next one.
+// with a blank and a backslash goes on in the next one, whose indentation doesn't count.
 #pragma once
 
 #include <cstdint>
