@@ -74,6 +74,7 @@ static std::string TextWithout(const Call &call, int left)
 // In a process of its own: the filter's state is that of one job.
 static int RunFilter(const Call &call, const std::string &document, const char *text, FILE *out)
 {
+    fflush(stdout); // or the filter would write it as well
     const pid_t child = fork();
     if (child == 0) {
         const int nothing = open("/dev/null", O_RDWR);
