@@ -277,6 +277,9 @@ class calls(Tool):
         for arguments in (["show", "none"], ["show", "."], ["diff", "none", "none"], ["options", "none", "a=b"]):
             done = self.run_tool(*arguments, status=2, CUPS_SERVER="/none")
             self.assertRegex(done.stderr, b"^orvane-job: [^\n]+: [^\n]+\n$")
+        for folder in ("none", "/proc"):
+            told = self.run_tool("options", SAMPLES / "mono.ppd", "a=b", status=2, TMPDIR=folder).stderr
+            self.assertEqual(told, b"orvane-job: no folder can be made in TMPDIR\n")
 
 
 def define_classes():

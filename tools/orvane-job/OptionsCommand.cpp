@@ -18,13 +18,15 @@
 
 static constexpr char kTicketPrefix[] = "com.orvane.dlg.printsettings.";
 
-// A folder of the tool's own, gone with it: whatever the filter leaves in TMPDIR stays in there.
+// A folder of the tool's own, gone with it: whatever the filter leaves in TMPDIR stays in there. Without a path where
+// none can be made.
 struct Folder {
     std::string path;
     Folder()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "orvane-job.XXXXXX").string();
-        if (mkdtemp(name.data()))
+        std::error_code error;
+        std::string name = (std::filesystem::temp_directory_path(error) / "orvane-job.XXXXXX").string();
+        if (!error && mkdtemp(name.data()))
             path = name;
     }
     ~Folder()
@@ -203,6 +205,9 @@ int OptionsCommand(int argc, char **argv)
     if (!FindQueuePPD(argv[1], call.ppd)) {
         fprintf(stderr, "orvane-job: %s: no PPD file that can be read, and no queue of that name\n",
                 Readable(argv[1], true).c_str());
+        status = kTrouble;
+    } else if (call.folder.path.empty()) {
+        fputs("orvane-job: no folder can be made in TMPDIR\n", stderr);
         status = kTrouble;
     } else if (!ExplainCall(call, -1, all)) {
         fputs("orvane-job: the filter could not run\n", stderr);
