@@ -39,8 +39,9 @@ static constexpr PostScriptTicket postScriptTickets[] = {
     {".BookletMarginMMShiftTicket", "0123456789.-"},
 };
 
-// Each byte value takes up to four characters of the 1023 that a ticket is read to.
-constexpr size_t kByteValuesMaxLength = 255;
+// What is read of a ticket. Each byte value takes up to four characters of it.
+constexpr size_t kTicketMaxLength = kTicketTextSize - 1;
+constexpr size_t kByteValuesMaxLength = kTicketMaxLength / 4;
 
 const size_t kPostScriptStringMaxLength = kDirectLineSize - sizeof " show\n";
 
@@ -210,13 +211,13 @@ static const PostScriptTicket *FindPostScriptTicket(std::string_view name)
     return nullptr;
 }
 
-// As much of it as a list of byte values can carry, without half a character.
-static std::string AsByteValues(std::string_view text)
+// As much of the text as fits, without half a character.
+static std::string WholeCharacters(const std::string &text, size_t maxLength)
 {
-    size_t length = std::min(text.size(), kByteValuesMaxLength);
-    while (length < text.size() && (text[length] & 0xC0) == 0x80)
+    size_t length = std::min(text.size(), maxLength);
+    while (length > 0 && length < text.size() && (text[length] & 0xC0) == 0x80)
         length--;
-    return ByteValues(text.substr(0, length), 1);
+    return text.substr(0, length);
 }
 
 // The value with its placeholders replaced; nothing for an empty password.
@@ -250,8 +251,12 @@ static std::optional<std::string> Filled(std::string_view name, std::string_view
         value.remove_prefix(placeholder.size());
         replaced = true;
     }
+    if (!replaced)
+        return filled;
     // It would be taken for a list of byte values.
-    return replaced && filled.starts_with('/') ? AsByteValues(filled) : filled;
+    if (filled.starts_with('/'))
+        return ByteValues(WholeCharacters(filled, kByteValuesMaxLength), 1);
+    return WholeCharacters(filled, kTicketMaxLength);
 }
 
 static void AddGiven(Completion &completion, const PPDRow &row, const Setting &setting)

@@ -15,9 +15,6 @@
 #include <string>
 #include <utility>
 
-// Size of the buffer in which a text is decoded, its NUL included; a longer value is cut.
-constexpr size_t kTicketTextSize = 1024;
-
 // Position of the options among the filter's arguments.
 constexpr int kOptionsArgument = 5;
 

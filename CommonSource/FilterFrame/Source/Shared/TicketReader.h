@@ -11,6 +11,10 @@
 #include <string>
 #include <string_view>
 
+// Size of the buffer in which a text is decoded, its NUL included; a longer value is cut, even inside a character,
+// which makes it invalid.
+constexpr size_t kTicketTextSize = 1024;
+
 // Returns 1 when the key was present, 0 when absent, unless the getter says otherwise.
 using TicketGetter = int32_t (*)(const char *key, int32_t optionCount, cups_option_t *options, void *destination,
                                  int32_t size);
