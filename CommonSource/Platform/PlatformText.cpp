@@ -1,8 +1,9 @@
 // Text conversion: UTF-8 by hand, because libraries differ in what they accept, and Shift-JIS with iconv.
 #include "Platform.h"
 
-#include <cstring>
+#include <algorithm>
 #include <iconv.h>
+#include <iterator>
 
 static const char kShiftJIS[] = "SHIFT_JISX0213";
 static const char kUTF16[] = "UTF-16BE";

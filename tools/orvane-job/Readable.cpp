@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <cstdint>
+#include <cstdio>
 #include <vector>
 
 static constexpr size_t kLongestCharacter = 4;

@@ -15,8 +15,8 @@ struct Paper {
 // The standard output's; plain when it is no terminal.
 Paper PaperOfStandardOutput();
 
-// One entry: a short form, and what it means, wrapped after it. mark: '!' for what is worth a look, else ' ', '<',
-// '>'.
+// One entry: a short form, and what it means, wrapped after it. mark: '!' for what is worth a look, '-', '<' and '>'
+// for what one of two jobs has, else ' '.
 void PrintEntry(const Paper &paper, char mark, std::string_view brief, std::string_view words);
 void PrintHeading(const Paper &paper, std::string_view text);
 

@@ -1,6 +1,5 @@
 // PPDTickets: what the queue's PPD says that choices of its options mean (*OVTicket), and the defaults that it wants
-// sent
-// (*OVSendDefaults). docs/ppd-tickets.md has both for those who write PPDs.
+// sent (*OVSendDefaults). docs/ppd-tickets.md has both for those who write PPDs.
 #pragma once
 
 #include "TicketReader.h"
