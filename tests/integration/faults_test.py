@@ -440,8 +440,13 @@ class Faults(unittest.TestCase):
         def fifo_with_reader(path):
             os.mkfifo(path)
             readers.append(os.open(path, os.O_RDONLY | os.O_NONBLOCK))
+
+        def somebody_elses(path):
+            path.touch()
+            os.chown(path, 65534, -1)
         for put in (lambda path: path.symlink_to(victim), lambda path: path.symlink_to(self.folder / "new"),
-                    lambda path: path.hardlink_to(victim), os.mkfifo, fifo_with_reader, os.mkdir):
+                    lambda path: path.hardlink_to(victim), os.mkfifo, fifo_with_reader, os.mkdir,
+                    *([somebody_elses] if os.geteuid() == 0 else [])):
             with self.subTest():
                 self.plant(put)
                 before = victim.stat().st_mode
@@ -455,6 +460,7 @@ class Faults(unittest.TestCase):
                     os.close(reader)
                 readers.clear()
                 for path in self.spool_files():
+                    self.assertTrue(not path.is_file() or path.read_bytes() in (b"", b"precious"))
                     path.rmdir() if path.is_dir() and not path.is_symlink() else path.unlink()
 
     def test_job_copy_is_its_owners_until_it_is_finished(self):

@@ -23,11 +23,13 @@ TEST(PPDLookup, FirstAttributeWhoseNameBeginsSo)
 TEST(PPDLookup, AnotherPPDGivesOtherAnswers)
 {
     const TestPPD utf8("*OVPrinterLanguageEncoding: \"UTF-8\"\n");
-    const TestPPD colour("*OVPrinterLanguageEncoding: \"UTF-8 \"\n*ColorDevice: True\n");
+    const TestPPD colour("*OVPrinterLanguageEncoding: \"UTF-8 \"\n*ColorDevice: True\n*OpenUI *OVColorMode: PickOne\n"
+                         "*DefaultOVColorMode: Colors\n*OVColorMode Colors: \"\"\n*CloseUI: *OVColorMode\n");
     for (const TestPPD *ppd : {&colour, &utf8, &colour}) {
         ppd->Use();
         EXPECT_EQ(IsUTF8Mode(), ppd == &utf8);
         EXPECT_EQ(IsColorDeivce(), ppd == &colour);
+        EXPECT_EQ(getDefaultColorMode(), 0);
     }
     unsetenv("PPD");
     EXPECT_FALSE(IsUTF8Mode());
