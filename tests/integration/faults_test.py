@@ -449,10 +449,9 @@ class Faults(unittest.TestCase):
                     *([somebody_elses] if os.geteuid() == 0 else [])):
             with self.subTest():
                 self.plant(put)
-                before = victim.stat().st_mode
+                before = [path.lstat()[:7] for path in (victim, *self.spool_files())]  # all but the times
                 self.assert_job(self.run_job(b"ep\n", program=COPYING_FILTER), b"ep\n\x04")
-                self.assertEqual(victim.read_bytes(), b"precious")
-                self.assertEqual(victim.stat().st_mode, before)
+                self.assertEqual([path.lstat()[:7] for path in (victim, *self.spool_files())], before)
                 self.assertFalse((self.folder / "new").exists())
                 for reader in readers:
                     os.set_blocking(reader, False)
@@ -460,7 +459,6 @@ class Faults(unittest.TestCase):
                     os.close(reader)
                 readers.clear()
                 for path in self.spool_files():
-                    self.assertTrue(not path.is_file() or path.read_bytes() in (b"", b"precious"))
                     path.rmdir() if path.is_dir() and not path.is_symlink() else path.unlink()
 
     def test_job_copy_is_its_owners_until_it_is_finished(self):
