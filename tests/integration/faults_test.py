@@ -317,13 +317,13 @@ class Faults(unittest.TestCase):
 
     def test_spooled_job_copy_has_the_document_once(self):
         options = f"{TICKET}WMARKNameTicket=a {TICKET}WMARKTypeTicket=0"
-        output = self.run_job(b"%!PS\n%%EndPageSetup\n%%BeginFeature: *Smoothing True\nshowpage\ntail",
+        output = self.run_job(b"%!PS\n%%EndPageSetup\n1\n%%BeginFeature: *Smoothing True\nshowpage\ntail",
                               options=options, spooled=True, program=COPYING_FILTER)
         copy, = (file for file in self.spool_files() if file.suffix == ".job")
         feature = b"@PJL SET RET=ON\n"
         header, _, rest = output.partition(ENTER)
         document = rest.removesuffix(TRAILER)
-        self.assertEqual(document, b"%!PS\n%%EndPageSetup\nwqwbp\n%%BeginFeature: *Smoothing True\nshowpage\nl\x04")
+        self.assertEqual(document, b"%!PS\n%%EndPageSetup\nwqwbp\n1\n%%BeginFeature: *Smoothing True\nshowpage\nl\x04")
         self.assertTrue(header.endswith(feature))
         before, line, after = document.partition(b"%%BeginFeature")
         self.assertEqual(copy.read_bytes(),
