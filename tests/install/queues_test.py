@@ -29,6 +29,24 @@ MARKS = [
      r"(\\213\\311\\224\\351) 72 0.3 0.3 0.3 40 30 GothicBBB-Medium-90ms-RKSJ-H 0"),
 ]
 
+# What a unit that is not installed, or a simple one, rules out.
+FOLDED = "OVSignature (Left|Right)Sig(Fold|CenterStaple)"
+RULED_OUT = {
+    "OVFinisher None": f"OVStaple|OVOffset|OVPageOffset|OutputBin Finisher|{FOLDED}",
+    "OVFinisher Stapler": f"OVStaple SaddleStaple|{FOLDED}",
+    "OVHolePunch False": "OVPunch", "OVTrimmer False": "OVEdgeCut|OVThreeEdgeCut", "OVBinder False": "OVPBindPosition",
+    "OVJobStorage False": "OVJobType (Delayed|Mailbox)|OVStorageBox",
+}
+
+# PWG 5100.1: the sides and corners in the order of their numbers
+SIDES = ["left", "top", "right", "bottom"]
+FINISHINGS = {
+    **{f"{28 + i}/staple-dual-{side}": f"OVStaple {side.title()}Double" for i, side in enumerate(SIDES)},
+    **{f"{74 + i}/punch-dual-{side}": f"OVPunch {side.title()}" for i, side in enumerate(SIDES)},
+    "20/staple-top-left": "OVStaple UpperLeftSingle", "21/staple-bottom-left": "OVStaple LowerLeftSingle",
+    "22/staple-top-right": "OVStaple UpperRightSingle", "23/staple-bottom-right": "OVStaple LowerRightSingle",
+}
+
 
 class Queue:
     def __init__(self, path):
@@ -74,8 +92,26 @@ class Queues(unittest.TestCase):
     def test_installed_units_matter(self):
         for queue in self.each():
             units = re.search(r"^\*OpenGroup: InstallableOptions.*?^\*CloseGroup", queue.text, re.M | re.S)[0]
+            ruled_out = re.findall(r"^\*UIConstraints: \*(\w+ \w+) \*(.+?) ?$", queue.text, re.M)
+            chosen = [f"{option} {choice}".strip() for option in queue.options for choice in ["", *queue.options[option]]]
             for unit in re.findall(r"^\*OpenUI \*(\w+)", units, re.M):
-                self.assertIn(f"*UIConstraints: *{unit} {queue.options[unit][0]} *", queue.text)
+                *less, whole = queue.options[unit]
+                self.assertIn(f"*Default{unit}: {whole}\n", queue.text)
+                for state in (f"{unit} {choice}" for choice in less):
+                    self.assertCountEqual([what for by, what in ruled_out if by == state],
+                                          [what for what in chosen if re.fullmatch(RULED_OUT[state], what)], state)
+
+    def test_names_mean_what_they_say(self):
+        for queue in self.each():
+            finishings = dict(re.findall(r'^\*cupsIPPFinishings ([^:]+): "\*(\w+ \w+)"', queue.text, re.M))
+            self.assertLessEqual(FINISHINGS.items(), finishings.items())
+            codes = re.findall(r'^\*OV\w+ (?!None)(\w+?)(?:Sheets)?/.*: "[/(]?(\w+)\)?/Custom/', queue.text, re.M)
+            self.assertEqual([(choice, code) for choice, code in codes if choice != code], [])
+            self.assertGreater(len(codes), 10)
+            self.assertEqual(queue.has("OVColorMode", "Black"),
+                             bool(re.search(r'^\*APPrinterPreset Monochrome/.*"\s*\*OVColorMode Black ', queue.text, re.M)))
+            pin = re.search(r'\*cupsJobPassword: "(1+)"', queue.text)[1]
+            self.assertIn(f"*ParamCustomOVHoldPIN PIN/PIN: 1 passcode 4 {len(pin)}\n", queue.text)
 
     def test_secrets_stay_out_of_the_document(self):
         """What is typed belongs to the section JCLSetup, for which no code is written."""

@@ -10,33 +10,23 @@
 
 static const char prefix[] = "com.orvane.dlg.printsettings.";
 
+// An option of a PPD, with a custom choice where `custom` is its type.
+static std::string Option(const std::string &keyword, const std::string &standard, const Cells &choices,
+                          const std::string &custom = "")
+{
+    std::string text = "*OpenUI *" + keyword + ": PickOne\n*Default" + keyword + ": " + standard + "\n";
+    for (const std::string &choice : choices)
+        text += "*" + keyword + " " + choice + ": \"\"\n";
+    text += "*CloseUI: *" + keyword + "\n";
+    if (!custom.empty())
+        text += "*Custom" + keyword + " True: \"\"\n*ParamCustom" + keyword + " Text: 1 " + custom + " 1 8\n";
+    return text;
+}
+
 // One option is like any, one has a custom choice, one is a switch, and one hides its default.
-static const char options[] = R"(
-*OpenUI *Pick/Pick: PickOne
-*DefaultPick: None
-*Pick None/None: ""
-*Pick On/On: ""
-*Pick Custom/Custom: ""
-*CloseUI: *Pick
-*OpenUI *Pin/PIN: PickOne
-*OrderDependency: 10 JCLSetup *Pin
-*DefaultPin: None
-*Pin None/None: ""
-*JCLCloseUI: *Pin
-*CustomPin True: ""
-*ParamCustomPin PIN/PIN: 1 passcode 4 8
-*OpenUI *Switch/Switch: Boolean
-*DefaultSwitch: False
-*Switch True/On: ""
-*Switch False/Off: ""
-*CloseUI: *Switch
-*OpenUI *Hidden/Hidden: PickOne
-*DefaultHidden: Unknown
-*Hidden None/None: ""
-*CloseUI: *Hidden
-*CustomHidden True: ""
-*ParamCustomHidden Text/Text: 1 string 1 8
-)";
+static const std::string options =
+    Option("Pick", "None", {"None", "On", "Custom"}) + Option("Pin", "None", {"None"}, "passcode") +
+    Option("Switch", "False", {"True", "False"}) + Option("Hidden", "Unknown", {"None"}, "string");
 
 // "OPTION.CHOICE: text ; ..." as a PPD; "defaults" and "*Keyword: value" stand for other attributes.
 static std::string PPDText(const std::string &cell)
