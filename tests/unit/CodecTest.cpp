@@ -34,14 +34,14 @@ TEST(Codec, Scrambles)
 
 TEST(Codec, RefusesNullPointers)
 {
-    const unsigned char input[] = "abc";
-    unsigned char bytes[8];
     char text[8];
     int32_t length = -7;
-    EXPECT_EQ(ZSPBinToB64(nullptr, 3, text, &length, 8), -1);
-    EXPECT_EQ(ZSPBinToB64(input, 3, nullptr, &length, 8), -1);
-    EXPECT_EQ(ZSPB64ToBin(nullptr, 4, bytes, &length, 8), -1);
-    EXPECT_EQ(ZSPB64ToBin("YWJj", 4, nullptr, &length, 8), -1);
-    EXPECT_EQ(ZSPEncrypt(input, 3, nullptr, &length, 8), -1);
+    for (const auto codec : {ZSPBinToB64, ZSPB64ToBin, ZSPEncrypt}) {
+        EXPECT_EQ(codec(nullptr, 4, text, &length, 8), kZSPNullPointer);
+        EXPECT_EQ(codec("YWJj", 4, nullptr, &length, 8), kZSPNullPointer);
+        EXPECT_EQ(codec("YWJj", 4, text, nullptr, 8), kZSPNullPointer);
+    }
     EXPECT_EQ(length, -7);
+    EXPECT_EQ(ZSPBinToB64("abc", 3, nullptr, &length, 0), kZSPOutputTooSmall); // asks for the size
+    EXPECT_EQ(ZSPB64ToBin("YWJj", 4, nullptr, &length, 0), kZSPOutputTooSmall);
 }

@@ -3,9 +3,7 @@
 
 #include "JobState.h"
 #include "Rows.h"
-#include "TestPPD.h"
 
-#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -20,12 +18,6 @@ TEST(NameValidation, AllowedCharacters)
         EXPECT_EQ(ValidateDada(text, docuNameValidateDataScaleForProduct03UTF8), 1) << text;
         return {std::to_string(legacy), std::to_string(ValidateDada(text, docuNameValidateDataScaleForProduct02))};
     });
-}
-
-TEST(NameValidation, OnlySpaces)
-{
-    CheckRows("name-spaces",
-              [](const Cells &given) -> Cells { return {std::to_string(IsAllSpace(given[0].c_str()))}; });
 }
 
 TEST(NameValidation, WhatNoJobReaches)
@@ -51,17 +43,5 @@ TEST(NameValidation, WhatNoJobReaches)
         memset(StdUserName, 'a', length);
         InvalidateStdUserName();
         EXPECT_EQ(strlen(StdUserName), 255u);
-    }
-}
-
-TEST(NameValidation, AsksThePPDForTheMode)
-{
-    const TestPPD ppd("*OVPrinterLanguageEncoding: \"UTF-8\"\n");
-    for (const size_t length : {33u, 256u}) {
-        ClearJobState();
-        memset(StdUserName, 'a', length);
-        InvalidateStdUserName();
-        EXPECT_EQ(strlen(StdUserName), std::min<size_t>(length, 255));
-        EXPECT_EQ(strlen(StdJBAUserName), 32u);
     }
 }

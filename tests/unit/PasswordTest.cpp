@@ -1,22 +1,60 @@
 // Passwords where no job gets to. What a printer makes of those that are sent stands in data/jobs/credentials.jobs.
+#define OPENSSL_SUPPRESS_DEPRECATED // for random bytes that are known
 #include "PasswordTicket.h"
 
+#include "Platform.h"
 #include "ProductConfig.h"
 #include "Rows.h"
+#include "TestPPD.h"
 #include "secblobenc-sender.h"
 #include "secblobenc.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <cstring>
-#include <memory>
 #include <new>
+#include <numeric>
 #include <openssl/evp.h>
-#include <openssl/hmac.h>
 #include <openssl/rand.h>
-#include <pthread.h>
-#include <unistd.h>
+#include <utility>
 
-static const char secret[] = "uvShStrPqbe+e1Ldn4EVdg=="; // "secret" as it is stored
+// Random bytes that count upwards from 1, in so many draws; the draws after them fail.
+struct KnownRandomBytes {
+    static inline unsigned char last;
+    static inline int left;
+
+    static int Draw(unsigned char *out, int count)
+    {
+        std::generate_n(out, count, [] { return ++last; });
+        return left-- > 0;
+    }
+    explicit KnownRandomBytes(int draws)
+    {
+        static const RAND_METHOD method = {nullptr, Draw, nullptr, nullptr, nullptr, nullptr};
+        last = 0;
+        left = draws;
+        RAND_set_rand_method(&method);
+    }
+    ~KnownRandomBytes() { RAND_set_rand_method(nullptr); }
+};
+
+static std::string Counting(int first, int count)
+{
+    std::string bytes(static_cast<size_t>(count), '\0');
+    std::iota(bytes.begin(), bytes.end(), static_cast<char>(first));
+    return bytes;
+}
+
+static std::span<const unsigned char> Bytes(std::string_view text)
+{
+    return {reinterpret_cast<const unsigned char *>(text.data()), text.size()};
+}
+
+static std::string DerivedKey(std::span<const unsigned char> key, std::span<const unsigned char> message)
+{
+    unsigned char digest[kPlatformHMACBytes];
+    PlatformHMACSHA256(key, message, digest);
+    return {digest, std::end(digest)};
+}
 
 // Reads a ticket into the field and returns what the getter does.
 static int32_t Get(const std::string &value, std::vector<char> &field)
@@ -41,9 +79,15 @@ TEST(Password, WhatIsNoStoredOneStaysAsItIs)
     });
 }
 
-// What is looked for in every block that is freed, and how often it was there.
-static std::string_view lookedFor;
+// While it is looked for: what no call may leave in memory that it gives back, and how often that was there.
+static std::span<const std::string> lookedFor;
 static int found;
+
+static void Look(const void *memory, size_t size)
+{
+    for (const std::string &secret : lookedFor)
+        found += std::string_view(static_cast<const char *>(memory), size).find(secret) != std::string_view::npos;
+}
 
 [[gnu::noinline]] void *operator new(size_t size)
 {
@@ -58,60 +102,102 @@ static int found;
 
 [[gnu::noinline]] void operator delete(void *block, size_t size) noexcept
 {
-    if (!lookedFor.empty() && std::string_view(static_cast<char *>(block), size).find(lookedFor) != std::string::npos)
-        found++;
+    Look(block, size);
     free(block);
 }
 
 static const char password[] = "a password of some length, so that nothing else looks like it";
 
-static void *ReadStored(void *)
+// What stands down the stack from here, and with none of the caller's things.
+[[gnu::noinline]] static void LookDownTheStack()
 {
-    auto sent = Buffer(kEncryptedPasswordSize);
-    EXPECT_EQ(Get(StorePassword(password), sent), 1);
-    return nullptr;
+    constexpr uintptr_t own = 1 << 12, depth = 1 << 18;
+    Look(reinterpret_cast<const void *>(reinterpret_cast<uintptr_t>(__builtin_frame_address(0)) - own - depth), depth);
 }
 
-static uint32_t stored = 99;
-
-static void *UseStorageKey(void *)
+// Calls from so far down that what is called later leaves it alone.
+[[gnu::noinline]] static uint32_t CallDeep(uint32_t (*call)())
 {
-    volatile char depth[1 << 16]; // what runs later does not come so far down
-    depth[0] = 0;
-    static_cast<void>(depth[0]);
-    unsigned char out[16];
-    uint32_t length = sizeof out;
-    stored = Encode_Storage("secret", 6, seed1, sizeof seed1, seed2, sizeof seed2, seed3, sizeof seed3, out, &length);
-    return nullptr;
+    volatile uint32_t depth[1 << 12];
+    depth[0] = call();
+    return depth[0];
 }
 
-// Runs on a stack of the test's own, so that what is left there can be looked at.
+// The calls do nothing after what they are about, as that could lie over what was left.
 TEST(Password, LeavesNoSecretBehind)
 {
-    constexpr size_t stackSize = 1 << 20;
-    unsigned char key[32];
-    HMAC(EVP_sha256(), seed1, sizeof seed1, seed2, sizeof seed2, key, nullptr);
+    static const TestPPD ppd("*OVTicket a: \"ticket=added\"\n"); // makes the text of the options longer
+    static std::string stored = StorePassword(password), longer[] = {std::string(999, 'x'), std::string(4000, 'x')};
+    static char name[] = "password", sent[kEncryptedPasswordSize];
+    static cups_option_t option = {name, stored.data()};
+    static unsigned char out[400];
+    static uint32_t length = sizeof out;
     const struct {
-        void *(*call)(void *);
-        std::string_view wanted;
-    } cases[] = {{ReadStored, password}, {UseStorageKey, {reinterpret_cast<const char *>(key), sizeof key}}};
-    for (const auto &[call, wanted] : cases) {
-        const std::unique_ptr<char, decltype(&free)> stack(static_cast<char *>(aligned_alloc(4096, stackSize)), free);
-        memset(stack.get(), 0, stackSize);
-        pthread_attr_t attributes;
-        pthread_attr_init(&attributes);
-        pthread_attr_setstack(&attributes, stack.get(), stackSize);
-        pthread_t thread;
-        lookedFor = wanted;
+        uint32_t (*call)();
+        uint32_t answer;
+    } calls[] = {{[] { return static_cast<uint32_t>(StorePassword(password).size()); }, 88},
+                 {[] {
+                      const auto getter = GetTicketPasswordStringConvertedToEncryption;
+                      return static_cast<uint32_t>(getter(name, 1, &option, sent, sizeof sent));
+                  },
+                  1},
+                 {[] { return Encode_Storage("x", 1, seed1, 32, seed2, 32, seed3, 16, out, &length); }, 0},
+                 {[] { return SecBlobEnc_KT_Encrypt(0, 0, "x", 1, RSA_PUBKEY_2048_OFFICIAL, 399, out, &length); }, 99},
+                 {[] { // longer options in their place
+                      for (const char *text : {password, longer[0].c_str(), longer[1].c_str()}) {
+                          const char *const argv[] = {"", "1", "taro", text, "1", text, nullptr};
+                          OptionsOfJob(argv);
+                      }
+                      return 0u;
+                  },
+                  0},
+                 {[] { // none of them
+                      char area[1 << 18];
+                      PlatformWipe(area, sizeof area);
+                      return static_cast<uint32_t>(area[0] | area[sizeof area - 1]);
+                  },
+                  0}};
+    // Of the password the end: something short may lie over its beginning.
+    const std::string secrets[] = {password + 8, DerivedKey({seed1, 32}, {seed2, 32}), Counting(1, 32),
+                                   DerivedKey(Bytes(Counting(1, 32)), Bytes(Counting(33, 32)))};
+    for (const auto &[call, answer] : calls) {
+        const KnownRandomBytes random(9);
+        CallDeep(std::end(calls)[-1].call);
         found = 0;
-        ASSERT_EQ(pthread_create(&thread, &attributes, call, nullptr), 0);
-        pthread_join(thread, nullptr);
-        pthread_attr_destroy(&attributes);
+        lookedFor = secrets;
+        EXPECT_EQ(CallDeep(call), answer);
+        LookDownTheStack();
         lookedFor = {};
-        EXPECT_EQ(found, 0);
-        EXPECT_EQ(std::string_view(stack.get(), stackSize).find(wanted), std::string::npos);
+        EXPECT_EQ(found, 0) << "answers " << answer;
     }
-    EXPECT_EQ(stored, 0u);
+}
+
+// A blob's secret, salt and vector are bytes of its own; without them nothing is sent.
+TEST(SecureBlob, IsMadeOfRandomBytes)
+{
+    for (const int first : {1, 113}) { // the second blob's, after 32 for the padding of the first
+        const KnownRandomBytes random(9);
+        unsigned char blob[512], plain[16] = {};
+        KnownRandomBytes::last = static_cast<unsigned char>(first - 1);
+        uint32_t length = 0;
+        size_t plainLength = 0;
+        ASSERT_EQ(Encode_Random("secret", 6, blob, &length), 0u);
+        const std::string secret = Counting(first, 32), salt = Counting(first + 32, 32), iv = Counting(first + 64, 16);
+        EXPECT_EQ(salt + iv, std::string(blob + 48, blob + 80) + std::string(blob + 336, blob + 352));
+        PlatformAESCBCDecrypt(Bytes(DerivedKey(Bytes(secret), Bytes(salt))), Bytes(iv), {blob + 352, blob + length},
+                              plain, plainLength);
+        EXPECT_EQ(std::string(plain, plain + plainLength), "secret");
+    }
+    for (const auto &[draws, location] : {std::pair{0, "114"}, {1, "122"}, {2, "139"}}) {
+        const KnownRandomBytes random(draws);
+        auto sent = Buffer(kEncryptedPasswordSize);
+        testing::internal::CaptureStderr();
+        const std::string messages = Printed([&] { EXPECT_EQ(Get(StorePassword("secret"), sent), 0); });
+        EXPECT_EQ(messages + testing::internal::GetCapturedStderr(),
+                  std::string("Generate Random Error[-1]ERROR[") + location + "]: generate random failed[99].\n" +
+                      "##filter debug## final encode failed encodeResult : 99 \n");
+        EXPECT_EQ(sent, std::vector<char>(sent.size()));
+    }
 }
 
 TEST(SecureBlob, TransportReportsTheStepThatFailed)
@@ -119,20 +205,19 @@ TEST(SecureBlob, TransportReportsTheStepThatFailed)
     CheckRows("blob-transport", [](const Cells &given) -> Cells {
         auto data = Buffer(99501), out = Buffer(100000);
         std::string key = given[3];
-        if (key.starts_with("official")) {
+        if (key.starts_with("official"))
             key.replace(0, strlen("official"), RSA_PUBKEY_2048_OFFICIAL);
-            std::erase(key, '\n');
-        }
         uint32_t length = 7, status = 0;
         std::string messages = Printed([&] {
-            status =
-                SecBlobEnc_KT_Encrypt(Number(given[0]), Number(given[1]), data.data(),
-                                      static_cast<uint32_t>(Number(given[2])), key.c_str(), 399, out.data(), &length);
+            status = SecBlobEnc_KT_Encrypt(Number(given[0]), Number(given[1]), data.data(),
+                                           static_cast<uint32_t>(Number(given[2])), key.c_str(),
+                                           static_cast<uint32_t>(Number(given[4])), out.data(), &length);
         });
         if (messages.starts_with("RSA Error["))
             messages.erase(0, messages.find("ERROR["));
         if (status == 0) {
-            EXPECT_EQ(out[11], 1); // it names the 3072-bit key
+            EXPECT_EQ(static_cast<unsigned char>(out[8]), length >> 16); // of its length's bytes the third
+            EXPECT_EQ(out[11], 1);                                       // it names the 3072-bit key
             EXPECT_EQ(memcmp(&out[16], pubkey3072_OFFICIAL_SHA256, 32), 0);
         }
         return {std::to_string(status), std::to_string(length), messages};
@@ -157,30 +242,14 @@ TEST(SecureBlob, ReportsAKeyThatCannotBeDerived)
 {
     unsigned char data[16] = {}, out[400];
     uint32_t length = sizeof out;
-    Generate_Random(1, data);
+    Generate_Random(1, data); // the generator stays
     EVP_set_default_properties(nullptr, "provider=none");
-    const std::string messages = Printed([&] {
-        EXPECT_EQ(Encode_Storage(data, 6, seed1, 32, seed2, 32, seed3, 16, out, &length), 99u);
-        EXPECT_EQ(Decode_Storage(data, 16, seed1, 32, seed2, 32, seed3, 16, out, &length), 99u);
-        EXPECT_EQ(Encode_Random(data, 6, out, &length), 99u);
-    });
+    EXPECT_EQ(Printed([&] {
+                  EXPECT_EQ(Encode_Storage(data, 6, seed1, 32, seed2, 32, seed3, 16, out, &length), 99u);
+                  EXPECT_EQ(Decode_Storage(data, 16, seed1, 32, seed2, 32, seed3, 16, out, &length), 99u);
+                  EXPECT_EQ(Encode_Random(data, 6, out, &length), 99u);
+              }),
+              "ERROR[39]: Key Derivation HMAC failed[99].\nERROR[84]: Key Derivation HMAC failed[99].\n"
+              "ERROR[131]: Key Derivation HMAC failed[99].\n");
     EVP_set_default_properties(nullptr, "");
-    EXPECT_EQ(messages, "ERROR[39]: Key Derivation HMAC failed[99].\n"
-                        "ERROR[84]: Key Derivation HMAC failed[99].\n"
-                        "ERROR[131]: Key Derivation HMAC failed[99].\n");
-}
-
-TEST(PasswordDeathTest, NothingIsSentWithoutRandomBytes)
-{
-    const auto run = [] {
-        setvbuf(stdout, nullptr, _IONBF, 0);
-        dup2(STDERR_FILENO, STDOUT_FILENO);
-        OSSL_LIB_CTX_set0_default(OSSL_LIB_CTX_new()); // in which no random generator has started
-        RAND_set_DRBG_type(nullptr, "none", nullptr, nullptr, nullptr);
-        auto sent = Buffer(kEncryptedPasswordSize);
-        _exit(Get(secret, sent) == 0 && sent == std::vector<char>(sent.size()) ? 0 : 1);
-    };
-    EXPECT_EXIT(run(), testing::ExitedWithCode(0),
-                "^Generate Random Error\\[-1\\]ERROR\\[114\\]: generate random failed\\[99\\]\\.\n"
-                "##filter debug## final encode failed encodeResult : 99 \n$");
 }

@@ -1,6 +1,7 @@
-// Text conversion: UTF-8 to Shift-JIS, to UTF-8 and to the PPD's form.
+// Text conversion: UTF-8 to Shift-JIS, to UTF-8 and to the PPD's form; and the bounded copies.
 #include "TextEncoding.h"
 
+#include "BoundedText.h"
 #include "Rows.h"
 
 #include <algorithm>
@@ -32,4 +33,15 @@ TEST(TextEncoding, PPDFormIsParenthesisedUTF8)
         };
         return {Converted(convert, given)};
     });
+}
+
+TEST(BoundedText, TellsWhatStayed)
+{
+    char text[] = "old text";
+    EXPECT_EQ(CopyCut({text, 4}, "abcdef"), 3u);
+    EXPECT_EQ(std::string(text, 8), std::string("abc\0text", 8));
+    EXPECT_EQ(FormatCut({text, 4}, "%s", "xyzdef"), 3u);
+    EXPECT_EQ(std::string(text, 8), std::string("xyz\0text", 8));
+    EXPECT_EQ(CopyCut({text, 8}, {"ab\0cd", 5}), 2u);
+    EXPECT_EQ(CopyCut({text, size_t{0}}, "a") + FormatCut({text, size_t{0}}, "a"), 0u);
 }

@@ -1,16 +1,35 @@
-// The choice among a host's addresses, their compact form, the cut of its name, and the number formatter.
+// The lookup of a host, the choice among its addresses, their compact form, the cut of its name.
 #include "UtilityFunctionFilter.h"
 
 #include "Rows.h"
 
+#include <algorithm>
+#include <cstring>
+#include <dlfcn.h>
 #include <netdb.h>
 #include <sstream>
+#include <unistd.h>
+
+// Stands in for the system's lookup: what it was asked for, its error, and whether it gives any name two addresses.
+static std::string asked;
+static int error;
+static bool standsIn;
+
+extern "C" int getaddrinfo(const char *name, const char *service, const addrinfo *hints, addrinfo **found)
+{
+    static const auto lookUp = reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
+    asked = name;
+    if (error || !standsIn)
+        return error ? error : lookUp(name, service, hints, found);
+    return lookUp("2001:db8::5", service, hints, found) | lookUp("192.0.2.33", service, hints, &(*found)->ai_next);
+}
 
 // The address as the lookup gives it; bytes that are none for any other word.
 static PlatformAddress Address(const std::string &text)
 {
     addrinfo hints = {}, *found = nullptr;
     hints.ai_flags = AI_NUMERICHOST;
+    hints.ai_socktype = SOCK_STREAM;
     if (getaddrinfo(text.c_str(), nullptr, &hints, &found) != 0)
         return {0xFF};
     const auto *bytes = reinterpret_cast<const unsigned char *>(found->ai_addr);
@@ -34,8 +53,8 @@ TEST(HostAddress, ChoosesAmongTheAddresses)
 TEST(HostAddress, StoresWithinTheDestination)
 {
     auto text = Buffer(6);
-    EXPECT_TRUE(getHostAddress("192.0.2.33", text.data(), 6));
-    EXPECT_TRUE(getHostAddress("192.0.2.33", text.data(), 0));
+    for (const int32_t size : {6, 0}) // the second leaves it as it is
+        EXPECT_TRUE(getHostAddress("192.0.2.33", text.data(), size));
     EXPECT_EQ(TextOf(text), "192.0");
     EXPECT_TRUE(getHostAddress("127.0.0.1", text.data(), 6)); // it has an address, though none to report
     EXPECT_EQ(TextOf(text), "");
@@ -44,19 +63,41 @@ TEST(HostAddress, StoresWithinTheDestination)
     EXPECT_FALSE(getHostAddress("192.0.2.33", nullptr, 6));
 }
 
+TEST(HostAddress, OfTheComputer)
+{
+    auto host = Buffer(kHostNameSize), address = Buffer(kIPAddressSize);
+    standsIn = true;
+    GetClientIPAddress(host.data(), address.data());
+    standsIn = false;
+    char name[256] = "";
+    gethostname(name, sizeof name);
+    EXPECT_EQ(TextOf(host), name);
+    EXPECT_EQ(asked, name);
+    EXPECT_EQ(TextOf(address), "IC0000221");
+}
+
 TEST(HostAddress, LookupsThatEndWithoutAnAddress)
 {
-    char text[kPlatformAddressText] = "old";
-    HostLookup lookup = {text, sizeof text, false, {}};
-    EXPECT_FALSE(MyResolveNameToAddress("", &lookup));
-    EXPECT_FALSE(MyResolveNameToAddress(std::string(256, 'a').c_str(), &lookup));
-    lookup.addresses = {Address("192.0.2.33")};
-    MyCFHostClientCallBack(&lookup, -1, "host");
-    EXPECT_FALSE(lookup.result);
-    EXPECT_STREQ(text, "old");
-    EXPECT_TRUE(lookup.addresses.empty());
-    EXPECT_TRUE(MyResolveNameToAddress("192.0.2.33", &lookup));
-    EXPECT_STREQ(text, "192.0.2.33");
+    const int notStarted[] = {EAI_BADFLAGS, EAI_FAMILY, EAI_MEMORY, EAI_SOCKTYPE, EAI_SYSTEM};
+    for (const size_t length : {0, 1, 255, 256}) // of the name: none is empty or longer than 255
+        for (const int code :
+             {EAI_NONAME, EAI_AGAIN, EAI_FAIL, EAI_BADFLAGS, EAI_FAMILY, EAI_MEMORY, EAI_SOCKTYPE, EAI_SYSTEM}) {
+            SCOPED_TRACE(testing::Message() << length << ' ' << code);
+            char text[] = "old";
+            HostLookup lookup = {text, sizeof text, false, {Address("192.0.2.33")}};
+            const std::string name(length, 'a');
+            error = code;
+            EXPECT_EQ(MyResolveNameToAddress(name.c_str(), &lookup),
+                      length > 0 && length < 256 && std::ranges::count(notStarted, code) == 0);
+            EXPECT_FALSE(getHostAddress(name.c_str(), text, 0));
+            error = 0;
+            EXPECT_FALSE(lookup.result);
+            EXPECT_TRUE(lookup.addresses.empty());
+            EXPECT_STREQ(text, "old");
+        }
+    std::vector<PlatformAddress> addresses(2);
+    EXPECT_EQ(PlatformResolveHost("2001:db8::5", addresses), PlatformLookup::Found);
+    EXPECT_EQ(addresses, std::vector<PlatformAddress>{Address("2001:db8::5")}); // once, not for each kind of socket
 }
 
 TEST(HostAddressDeathTest, EndsTheProcessWithTheConditionThatFailed)
@@ -64,8 +105,11 @@ TEST(HostAddressDeathTest, EndsTheProcessWithTheConditionThatFailed)
     char text[8];
     HostLookup unreadable = {text, sizeof text, false, {PlatformAddress()}};
     EXPECT_DEATH(getHostAddress("\xC3\xA9", text, sizeof text), "inputString != NULL");
-    EXPECT_DEATH(MyResolveNameToAddress(nullptr, &unreadable), "\\(hostName != NULL");
-    EXPECT_DEATH(MyResolveNameToAddress("host", nullptr), "\\(host != NULL");
+    EXPECT_DEATH(MyResolveNameToAddress(nullptr, &unreadable), "\\(hostName != NULL\\), function MyResolve");
+    EXPECT_DEATH(MyResolveNameToAddress("host", nullptr), "\\(host != NULL\\), function MyResolve");
+    EXPECT_DEATH(MyPrintAddressArray(nullptr, "host"), "addresses != NULL");
+    EXPECT_DEATH(MyPrintAddressArray(&unreadable, nullptr), "hostName != NULL");
+    EXPECT_DEATH(MyPrintAddressArray(&unreadable, "\xC3\xA9"), "success");
     EXPECT_DEATH(MyPrintAddressArray(&unreadable, "host"), "addr != NULL");
 }
 
@@ -88,10 +132,11 @@ TEST(HostName, IsCutByUnitsInUTF8ModeOnly)
     });
 }
 
-TEST(Itoa, RightAlignedDigits)
+TEST(KernelRelease, FitsOrFails)
 {
-    CheckRows("itoa", [](const Cells &given) -> Cells {
-        auto buffer = Buffer(Number(given[1]));
-        return {itoa(Number(given[0]), buffer.data(), Number(given[1]))};
-    });
+    char release[64];
+    EXPECT_TRUE(PlatformKernelRelease(release));
+    const size_t size = strlen(release) + 1;
+    EXPECT_TRUE(PlatformKernelRelease({release, size}));
+    EXPECT_FALSE(PlatformKernelRelease({release, size - 1}));
 }
