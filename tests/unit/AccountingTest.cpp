@@ -33,13 +33,14 @@ TEST(Accounting, SenderWithoutNameOrWithAddress)
 
     // Nor does the login name of nobody charge anybody.
     option.userSetting = option.adminUserSetting = option.userIDList = option.adminUserIDList = 1;
-    for (option.manageType = 1; option.manageType <= 2; option.manageType++)
-        for (option.infoList = 0; option.infoList <= 3; option.infoList += option.infoList + 1)
-            for (const char *password : {"", "x"}) {
-                strcpy(option.userPassword, password);
-                strcpy(option.adminUserPassword, password);
-                const std::string account = "@PJL SET JOBATTR=\"@DAID=\"\r\n";
-                EXPECT_EQ(Lines("", "", "", ""), option.manageType == 1 ? account + unknown : unknown + account);
+    const std::string account = "@PJL SET JOBATTR=\"@DAID=\"\r\n";
+    for (const char *password : {"", "x"})
+        for (const int32_t list : {0, 1, 3})
+            for (const int32_t mode : {JBAModeListAdmin, JBAModeListUser}) {
+                strcpy(mode == JBAModeListAdmin ? option.adminUserPassword : option.userPassword, password);
+                option.infoList = list;
+                option.manageType = mode;
+                EXPECT_EQ(Lines("", "", "", ""), mode == JBAModeListAdmin ? account + unknown : unknown + account);
             }
 }
 

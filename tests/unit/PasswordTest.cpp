@@ -6,13 +6,13 @@
 #include "ProductConfig.h"
 #include "Rows.h"
 #include "TestPPD.h"
+#include "TestTicket.h"
 #include "secblobenc-sender.h"
 #include "secblobenc.h"
 
 #include <algorithm>
 #include <cstring>
 #include <new>
-#include <numeric>
 #include <openssl/evp.h>
 #include <openssl/rand.h>
 #include <utility>
@@ -21,7 +21,6 @@
 struct KnownRandomBytes {
     static inline unsigned char last;
     static inline int left;
-
     static int Draw(unsigned char *out, int count)
     {
         std::generate_n(out, count, [] { return ++last; });
@@ -37,12 +36,11 @@ struct KnownRandomBytes {
     ~KnownRandomBytes() { RAND_set_rand_method(nullptr); }
 };
 
-static std::string Counting(int first, int count)
-{
-    std::string bytes(static_cast<size_t>(count), '\0');
-    std::iota(bytes.begin(), bytes.end(), static_cast<char>(first));
+static const std::string counting = [] {
+    std::string bytes(256, '\0');
+    std::ranges::generate(bytes, [byte = 0]() mutable { return static_cast<char>(byte++); });
     return bytes;
-}
+}();
 
 static std::span<const unsigned char> Bytes(std::string_view text)
 {
@@ -56,23 +54,14 @@ static std::string DerivedKey(std::span<const unsigned char> key, std::span<cons
     return {digest, std::end(digest)};
 }
 
-// Reads a ticket into the field and returns what the getter does.
-static int32_t Get(const std::string &value, std::vector<char> &field)
-{
-    cups_option_t *options = nullptr;
-    const int count = value == "(absent)" ? 0 : cupsAddOption("password", value.c_str(), 0, &options);
-    const int32_t present = GetTicketPasswordStringConvertedToEncryption("password", count, options, field.data(),
-                                                                         static_cast<int32_t>(field.size()));
-    cupsFreeOptions(count, options);
-    return present;
-}
+static constexpr TicketGetter getter = GetTicketPasswordStringConvertedToEncryption;
 
 TEST(Password, WhatIsNoStoredOneStaysAsItIs)
 {
     CheckRows("passwords-as-they-are", [](const Cells &given) -> Cells {
         auto field = Buffer(Number(given[1]));
         int32_t present = 0;
-        const std::string messages = Printed([&] { present = Get(given[0], field); });
+        const std::string messages = Printed([&] { present = Read(getter, given[0], field); });
         const std::string text = TextOf(field);
         EXPECT_EQ(std::string(field.begin(), field.end()), text + std::string(field.size() - text.size(), '\0'));
         return {std::to_string(present), text, messages};
@@ -108,13 +97,6 @@ static void Look(const void *memory, size_t size)
 
 static const char password[] = "a password of some length, so that nothing else looks like it";
 
-// What stands down the stack from here, and with none of the caller's things.
-[[gnu::noinline]] static void LookDownTheStack()
-{
-    constexpr uintptr_t own = 1 << 12, depth = 1 << 18;
-    Look(reinterpret_cast<const void *>(reinterpret_cast<uintptr_t>(__builtin_frame_address(0)) - own - depth), depth);
-}
-
 // Calls from so far down that what is called later leaves it alone.
 [[gnu::noinline]] static uint32_t CallDeep(uint32_t (*call)())
 {
@@ -136,11 +118,7 @@ TEST(Password, LeavesNoSecretBehind)
         uint32_t (*call)();
         uint32_t answer;
     } calls[] = {{[] { return static_cast<uint32_t>(StorePassword(password).size()); }, 88},
-                 {[] {
-                      const auto getter = GetTicketPasswordStringConvertedToEncryption;
-                      return static_cast<uint32_t>(getter(name, 1, &option, sent, sizeof sent));
-                  },
-                  1},
+                 {[] { return static_cast<uint32_t>(getter(name, 1, &option, sent, sizeof sent)); }, 1},
                  {[] { return Encode_Storage("x", 1, seed1, 32, seed2, 32, seed3, 16, out, &length); }, 0},
                  {[] { return SecBlobEnc_KT_Encrypt(0, 0, "x", 1, RSA_PUBKEY_2048_OFFICIAL, 399, out, &length); }, 99},
                  {[] { // longer options in their place
@@ -150,23 +128,21 @@ TEST(Password, LeavesNoSecretBehind)
                       }
                       return 0u;
                   },
-                  0},
-                 {[] { // none of them
-                      char area[1 << 18];
-                      PlatformWipe(area, sizeof area);
-                      return static_cast<uint32_t>(area[0] | area[sizeof area - 1]);
-                  },
                   0}};
     // Of the password the end: something short may lie over its beginning.
-    const std::string secrets[] = {password + 8, DerivedKey({seed1, 32}, {seed2, 32}), Counting(1, 32),
-                                   DerivedKey(Bytes(Counting(1, 32)), Bytes(Counting(33, 32)))};
+    const std::string secrets[] = {password + 8, DerivedKey({seed1, 32}, {seed2, 32}), counting.substr(1, 32),
+                                   DerivedKey(Bytes(counting.substr(1, 32)), Bytes(counting.substr(33, 32)))};
+    // The stack below this function, and some of it for what is called here.
+    constexpr size_t own = 1 << 13, belowSize = 1 << 18;
+    auto *const below =
+        reinterpret_cast<char *>(reinterpret_cast<uintptr_t>(__builtin_frame_address(0)) - own - belowSize);
     for (const auto &[call, answer] : calls) {
         const KnownRandomBytes random(9);
-        CallDeep(std::end(calls)[-1].call);
+        memset(below, 0, belowSize);
         found = 0;
         lookedFor = secrets;
         EXPECT_EQ(CallDeep(call), answer);
-        LookDownTheStack();
+        Look(below, belowSize);
         lookedFor = {};
         EXPECT_EQ(found, 0) << "answers " << answer;
     }
@@ -175,14 +151,15 @@ TEST(Password, LeavesNoSecretBehind)
 // A blob's secret, salt and vector are bytes of its own; without them nothing is sent.
 TEST(SecureBlob, IsMadeOfRandomBytes)
 {
-    for (const int first : {1, 113}) { // the second blob's, after 32 for the padding of the first
+    for (const size_t first : {1, 113}) { // the second blob's, after 32 for the padding of the first
         const KnownRandomBytes random(9);
         unsigned char blob[512], plain[16] = {};
         KnownRandomBytes::last = static_cast<unsigned char>(first - 1);
         uint32_t length = 0;
         size_t plainLength = 0;
         ASSERT_EQ(Encode_Random("secret", 6, blob, &length), 0u);
-        const std::string secret = Counting(first, 32), salt = Counting(first + 32, 32), iv = Counting(first + 64, 16);
+        const std::string secret = counting.substr(first, 32), salt = counting.substr(first + 32, 32),
+                          iv = counting.substr(first + 64, 16);
         EXPECT_EQ(salt + iv, std::string(blob + 48, blob + 80) + std::string(blob + 336, blob + 352));
         PlatformAESCBCDecrypt(Bytes(DerivedKey(Bytes(secret), Bytes(salt))), Bytes(iv), {blob + 352, blob + length},
                               plain, plainLength);
@@ -192,7 +169,7 @@ TEST(SecureBlob, IsMadeOfRandomBytes)
         const KnownRandomBytes random(draws);
         auto sent = Buffer(kEncryptedPasswordSize);
         testing::internal::CaptureStderr();
-        const std::string messages = Printed([&] { EXPECT_EQ(Get(StorePassword("secret"), sent), 0); });
+        const std::string messages = Printed([&] { EXPECT_EQ(Read(getter, StorePassword("secret"), sent), 0); });
         EXPECT_EQ(messages + testing::internal::GetCapturedStderr(),
                   std::string("Generate Random Error[-1]ERROR[") + location + "]: generate random failed[99].\n" +
                       "##filter debug## final encode failed encodeResult : 99 \n");

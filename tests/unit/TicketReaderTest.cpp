@@ -3,21 +3,9 @@
 
 #include "JobState.h"
 #include "Rows.h"
+#include "TestTicket.h"
 
 #include <cstring>
-
-// The job's options with the ticket K of this value, or without it.
-struct Ticket {
-    std::string value;
-    char name[2] = "K";
-    cups_option_t option = {name, value.data()};
-    int32_t present = value != "(absent)";
-};
-
-static int32_t Read(TicketGetter getter, Ticket ticket, std::vector<char> &field)
-{
-    return getter("K", ticket.present, &ticket.option, field.data(), static_cast<int32_t>(field.size()));
-}
 
 TEST(TicketReader, DecodesByteValues)
 {
@@ -45,14 +33,14 @@ TEST(TicketReader, TextOfEachGetter)
         const int32_t present = given[0] != "(absent)";
         for (const TicketGetter getter : textGetters) {
             auto field = Buffer(Number(given[1]));
-            EXPECT_EQ(Read(getter, {given[0]}, field), present || texts.size() > 3) << texts.size();
+            EXPECT_EQ(Read(getter, given[0], field), present || texts.size() > 3) << texts.size();
             texts.push_back(TextOf(field));
         }
         auto field = Buffer(Number(given[1]));
         const auto legacy = static_cast<int32_t>(texts[1].size()), utf8 = static_cast<int32_t>(texts[2].size());
-        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLang, {given[0]}, field), legacy);
+        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLang, given[0], field), legacy);
         EXPECT_EQ(TextOf(field), texts[1]);
-        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLangForUTF8, {given[0]}, field), utf8);
+        EXPECT_EQ(Read(GetLengthOfTicketStringConvertedToPrtLangForUTF8, given[0], field), utf8);
         EXPECT_EQ(TextOf(field), texts[2]);
         return texts;
     });
@@ -64,9 +52,9 @@ TEST(TicketReader, PagesPerSheetOfTheLayout)
         snprintf(StdLayoutRowInfo, sizeof StdLayoutRowInfo, "%s", given[0].c_str());
         snprintf(StdLayoutColumnInfo, sizeof StdLayoutColumnInfo, "%s", given[1].c_str());
         auto plain = Buffer(10), comment = Buffer(10), option = Buffer(10);
-        Read(GetNumberUpTicketString, {"(absent)"}, plain);
-        Read(GetNumberUpTicketStringForComment, {"(absent)"}, comment);
-        Read(GetNumberUpTicketString, {"6"}, option);
+        Read(GetNumberUpTicketString, "(absent)", plain);
+        Read(GetNumberUpTicketStringForComment, "(absent)", comment);
+        Read(GetNumberUpTicketString, "6", option);
         EXPECT_EQ(TextOf(option), "N6"); // it goes before the layout
         StdLayoutRowInfo[0] = StdLayoutColumnInfo[0] = '\0';
         return {TextOf(plain), TextOf(comment)};
