@@ -26,6 +26,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "jobs"))
 from blobs import Blob, openssl  # noqa: E402
+from content import ENTER, PPD_HEAD, TICKET, TRAILER, UEL  # noqa: E402
 
 FILTER, COPYING_FILTER = map(os.path.abspath, sys.argv[1:3])
 
@@ -33,12 +34,7 @@ BOUND = 120  # seconds that a job may take
 MEMORY = 1 << 20  # KiB that a job may take, a sanitizer's share included
 PIPE = 64 * 1024
 
-UEL = b"\x1b%-12345X"
-ENTER = b"@PJL ENTER LANGUAGE=POSTSCRIPT\n"
-TRAILER = UEL + b"@PJL EOJ\n"
-PPD_HEAD = ('*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
-            '*LanguageEncoding: ISOLatin1\n')
-TICKET = "com.orvane.dlg.printsettings."
+MODES = (False, True)  # passed through, or spooled first
 PAGE_ENDS = (b"ep\n", b"endp\n", b"showpage\n")
 
 # Two passwords, and a job's options in which they are stored under the development key.
@@ -70,17 +66,14 @@ def page_end_lines(document):
 
 class Faults(unittest.TestCase):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory(prefix="ovfaults.")
-        self.addCleanup(folder.cleanup)
-        self.folder = pathlib.Path(folder.name)
+        self.folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="ovfaults.")))
         self.temporary = self.folder / "tmp"
         self.temporary.mkdir()
-        self.ppds = {False: self.write("plain.ppd", PPD_HEAD),
-                     True: self.write("spooled.ppd", PPD_HEAD + '*OVPSDecompMode: "1"\n')}
+        self.ppds = [self.write("plain.ppd", PPD_HEAD), self.write("spooled.ppd", PPD_HEAD + b'*OVPSDecompMode: "1"\n')]
 
     def write(self, name, content):
         path = self.folder / name
-        path.write_bytes(content if isinstance(content, bytes) else content.encode())
+        path.write_bytes(content)
         return path
 
     def start(self, *, file=None, options="", spooled=False, program=FILTER, copies="1", environment=(), **popen):
@@ -90,8 +83,7 @@ class Faults(unittest.TestCase):
                      **{name: value for name, value in os.environ.items() if name in ("ASAN_OPTIONS", "TZ")},
                      **dict(environment)}
         arguments = [program, "1", "taro", "Report", copies, options] + ([str(file)] if file else [])
-        self.messages = tempfile.TemporaryFile()
-        self.addCleanup(self.messages.close)
+        self.messages = self.enterContext(tempfile.TemporaryFile())
         popen = {"stdin": subprocess.DEVNULL if file else subprocess.PIPE, "stdout": subprocess.PIPE, **popen}
         process = subprocess.Popen(arguments, env=variables, stderr=self.messages, bufsize=0, **popen)
         watchdog = threading.Timer(BOUND, process.kill)
@@ -101,20 +93,15 @@ class Faults(unittest.TestCase):
             self.addCleanup(stream.close)
         return process
 
-    def end(self, process):
-        """Waits for the end of a job and returns its exit status."""
-        status = process.wait()
+    def end(self, process, status=0):
+        """Waits for the end of a job and compares its exit status."""
+        process.wait()
         self.messages.seek(0)
         text = self.messages.read()
         for finding in (b"Sanitizer", b"runtime error"):
             self.assertNotIn(finding, text, text.decode(errors="replace"))
-        self.assertGreaterEqual(status, 0, "ended by a signal, or took too long")
-        return status
-
-    def assert_pages(self, *pages):
-        """The filter reported these pages, one copy each, and nothing else."""
-        self.messages.seek(0)
-        self.assertEqual(self.messages.read(), b"".join(b"PAGE: %d 1\n" % page for page in pages))
+        self.assertEqual(process.returncode, status, "negative: ended by a signal, or took too long")
+        return text
 
     def received(self, process, size):
         """The first bytes of the output."""
@@ -132,7 +119,7 @@ class Faults(unittest.TestCase):
         """Runs a whole job, its document from a file; returns its output."""
         process = self.start(file=self.write("document.ps", document), **settings)
         output = process.stdout.read()
-        self.assertEqual(self.end(process), 0)
+        self.end(process)
         return output
 
     def assert_job(self, output, document):
@@ -169,31 +156,30 @@ class Faults(unittest.TestCase):
 
     def test_reader_goes_away(self):
         document = self.write("document.ps", pages(2500))
-        for spooled in (False, True):
-            whole = self.run_job(document.read_bytes(), spooled=spooled)
-            header = whole.index(ENTER) + len(ENTER)
-            for offset in (0, 1, header - 1, header, header + 1, 4096, PIPE - 1, PIPE, PIPE + 1, len(whole) // 2,
-                           len(whole) - 3 * PIPE):
-                with self.subTest(spooled=spooled, offset=offset):
-                    process = self.start(file=document, spooled=spooled)
-                    received = self.received(process, offset)
-                    process.stdout.close()
-                    self.assertEqual(self.end(process), 1)
-                    self.assertTrue(whole.startswith(received))
-                    self.assertEqual(self.spool_files(), [])
+        wholes = [self.run_job(document.read_bytes(), spooled=spooled) for spooled in MODES]
+        header = wholes[0].index(ENTER) + len(ENTER)
+        for offset, spooled in itertools.product((0, 1, header - 1, header, header + 1, 4096, PIPE - 1, PIPE, PIPE + 1,
+                                                 len(wholes[0]) // 2, len(wholes[0]) - 3 * PIPE), MODES):
+            with self.subTest(offset=offset, spooled=spooled):
+                process = self.start(file=document, spooled=spooled)
+                received = self.received(process, offset)
+                process.stdout.close()
+                self.end(process, 1)
+                self.assertTrue(wholes[spooled].startswith(received))
+                self.assertEqual(self.spool_files(), [])
 
     def block_signals(self):
         signal.pthread_sigmask(signal.SIG_BLOCK, {signal.SIGTERM, signal.SIGPIPE})
 
     def test_reader_goes_away_before_a_small_job(self):
         """All of it is written by the last flush."""
-        for spooled, preexec in itertools.product((False, True), (None, self.block_signals)):
-            with self.subTest(spooled=spooled, blocked=preexec is not None):
+        for preexec, spooled in itertools.product((None, self.block_signals), MODES):
+            with self.subTest(preexec=preexec, spooled=spooled):
                 process = self.start(spooled=spooled, preexec_fn=preexec)
                 process.stdout.close()
                 process.stdin.write(b"ep\n")
                 process.stdin.close()
-                self.assertEqual(self.end(process), 1)
+                self.end(process, 1)
 
     def test_cancelled_where_the_parent_blocks_signals(self):
         process = self.start(preexec_fn=self.block_signals)
@@ -202,35 +188,36 @@ class Faults(unittest.TestCase):
         process.stdin.write(b"%!PS\nep\nep\n")
         process.stdin.close()
         self.assert_job(process.stdout.read(), b"%!PS\n")
-        self.assertEqual(self.end(process), 0)
+        self.end(process)
 
     def test_slow_pipes_and_signals(self):
         """SIGPIPE only leaves its mark in the exit status, SIGTERM waits for a page end: neither costs a byte."""
         document = b"0 0 moveto\n" * 20000
-        for spooled in (False, True):
-            for number, status in ((None, 0), (signal.SIGTERM, 0), (signal.SIGPIPE, 1)):
-                with self.subTest(spooled=spooled, signal=number):
-                    process = self.start(spooled=spooled)
-                    fcntl.fcntl(process.stdin, fcntl.F_SETPIPE_SZ, 4096)
-                    fcntl.fcntl(process.stdout, fcntl.F_SETPIPE_SZ, 4096)
-                    self.settle(process)
 
-                    def send():
-                        for at in range(0, len(document), 1777):
-                            process.stdin.write(document[at:at + 1777])
-                        process.stdin.close()
-                    sender = threading.Thread(target=send)
-                    sender.start()
-                    output = b""
-                    while piece := process.stdout.read(777):
-                        output += piece
-                        if number and len(output) % 7 == 0:
-                            process.send_signal(number)
-                    sender.join()
-                    self.assertEqual(self.end(process), status)
-                    self.assert_job(output, document + b"\x04")
+        def send(stream):
+            for at in range(0, len(document), 1777):
+                stream.write(document[at:at + 1777])
+            stream.close()
+        endings = ((None, 0), (signal.SIGTERM, 0), (signal.SIGPIPE, 1))
+        for (number, status), spooled in itertools.product(endings, MODES):
+            with self.subTest(signal=number, spooled=spooled):
+                process = self.start(spooled=spooled)
+                for stream in (process.stdin, process.stdout):
+                    fcntl.fcntl(stream, fcntl.F_SETPIPE_SZ, 4096)
+                self.settle(process)
+                sender = threading.Thread(target=send, args=[process.stdin])
+                sender.start()
+                output = b""
+                while piece := process.stdout.read(777):
+                    output += piece
+                    if number and len(output) % 7 == 0:
+                        process.send_signal(number)
+                sender.join()
+                self.end(process, status)
+                self.assert_job(output, document + b"\x04")
 
     def cancel_at(self, document, position, spooled, **settings):
+        """The output, the spool files' contents and the messages of a job that is cancelled there."""
         # Into a file, so that the filter waits only for its input.
         output = self.folder / "output"
         with output.open("wb") as file:
@@ -242,29 +229,30 @@ class Faults(unittest.TestCase):
         except BrokenPipeError:
             pass  # it has seen enough
         process.stdin.close()
-        self.assertEqual(self.end(process), 0)
-        return output.read_bytes()
+        messages = self.end(process)
+        left = [file.read_bytes() for file in self.spool_files()]
+        for file in self.spool_files():
+            file.unlink()
+        return output.read_bytes(), left, messages
 
     def test_cancelled_at_page_edges(self):
         document = pages(90)
         ends = list(page_end_lines(document))
         edge = next(end for end in ends if end[1] > PIPE)
-        positions = [0, 1, ends[0][0], ends[0][0] + 1, ends[0][1] - 1, ends[0][1], ends[1][0], ends[1][1] - 1, ends[2][1],
-                     edge[0], edge[1] - 1, PIPE - 1, PIPE, PIPE + 1, ends[-1][1] - 1, ends[-1][1], len(document)]
-        for position in positions:
-            # A page ends with its line's end; the first to come after the signal is the last.
-            begin = next((begin for begin, end in ends if end > position), None)
-            with self.subTest(position=position, spooled=False):
-                output = self.cancel_at(document, position, False)
-                self.assert_job(output, document + b"\x04" if begin is None else document[:begin])
-            with self.subTest(position=position, spooled=True):
-                output = self.cancel_at(document, position, True)
-                # Cancelled on its way in, the job leaves its spool file; on its way out, it ends after a page.
-                self.assert_job(output, document[:ends[0][1]] if begin is None else None)
-                left = self.spool_files()
-                self.assertEqual([file.read_bytes() for file in left], [] if begin is None else [document[:begin]])
-                for file in left:
-                    file.unlink()
+        positions = [0, 1, ends[0][0], ends[0][0] + 1, ends[0][1] - 1, ends[0][1], ends[1][0], ends[1][1] - 1,
+                     ends[2][1], edge[0], edge[1] - 1, PIPE - 1, PIPE, PIPE + 1, ends[-1][1] - 1, ends[-1][1],
+                     len(document)]
+        for position, spooled in itertools.product(positions, MODES):
+            with self.subTest(position=position, spooled=spooled):
+                # A page ends with its line's end; the first to come after the signal is the last.
+                begin = next((begin for begin, end in ends if end > position), None)
+                output, left, _ = self.cancel_at(document, position, spooled)
+                # Cancelled on its way in, a spooled job leaves its spool file; on its way out, it ends after a page.
+                self.assertEqual(left, [document[:begin]] if spooled and begin is not None else [])
+                if spooled:
+                    self.assert_job(output, document[:ends[0][1]] if begin is None else None)
+                else:
+                    self.assert_job(output, document + b"\x04" if begin is None else document[:begin])
 
     def test_cancelled_between_the_mark_and_its_page_end(self):
         options = " ".join(f"{TICKET}WMARK{name}Ticket={value}" for name, value in (
@@ -273,46 +261,44 @@ class Faults(unittest.TestCase):
                 b"-0.50 -0.50 moveto\n0 rotate\n(DRAFT) show\ngrestore\n")
         document = b"%!PS\nbp\nep\nbp\nep\n"
         sent = document[:8] + mark + b"ep\nbp\n" + mark
-        self.assert_job(self.cancel_at(document, len(document) - 2, False, options=options), sent)
-        self.assert_job(self.cancel_at(document, len(document) - 2, True, options=options), None)
-        left, = self.spool_files()
-        self.assertEqual(left.read_bytes(), sent)
+        self.assert_job(self.cancel_at(document, len(document) - 2, False, options=options)[0], sent)
+        output, left, _ = self.cancel_at(document, len(document) - 2, True, options=options)
+        self.assert_job(output, None)
+        self.assertEqual(left, [sent])
 
     def test_cancelled_at_page_comments(self):
         """Every comment that a page ends at is an end of the job too; the pages before it are reported."""
-        attribute = '*OVPageLogMethod: "PageComments"\n'
-        for ppd in self.ppds.values():
-            ppd.write_text(ppd.read_text() + attribute)
+        for ppd in self.ppds:
+            ppd.write_bytes(ppd.read_bytes() + b'*OVPageLogMethod: "PageComments"\n')
         inner = b"%%BeginDocument: a\n%%Page: 1 1\n%%Trailer\n%%EndDocument\n"
         page = inner + b"0 0 moveto\n" * 40
         start = b"%!PS-Adobe-3.0\n" + inner
         document = start + b"".join(b"%%%%Page: %d %d\n" % (n, n) + page for n in range(1, 80)) + b"%%Trailer\nend\n"
         second, last, trailer = (document.rindex(line) for line in (b"%%Page: 2 ", b"%%Page: 79", b"%%Trailer"))
         # Where the signal comes, where the job ends (None: at the document's end) and how many pages were reported.
-        for position, end, logged in ((second - 5, second, 1), (last + 2, last, 78), (trailer + 9, trailer, 79),
-                                      (len(document) - 1, None, 79)):
-            for spooled in (False, True):
-                with self.subTest(position=position, spooled=spooled):
-                    output = self.cancel_at(document, position, spooled)
-                    self.assert_pages(*range(1, logged + 1))
-                    if spooled:
-                        self.assert_job(output, start if end is None else None)
-                    else:
-                        self.assert_job(output, document + b"\x04" if end is None else document[:end])
-                    for file in self.spool_files():
-                        self.assertEqual(file.read_bytes(), document[:end])
-                        file.unlink()
+        signals = ((second - 5, second, 1), (last + 2, last, 78), (trailer + 9, trailer, 79),
+                   (len(document) - 1, None, 79))
+        for (position, end, logged), spooled in itertools.product(signals, MODES):
+            with self.subTest(position=position, spooled=spooled):
+                output, left, messages = self.cancel_at(document, position, spooled)
+                self.assertEqual(messages, b"".join(b"PAGE: %d 1\n" % page for page in range(1, logged + 1)))
+                self.assertEqual(left, [document[:end]] if spooled and end is not None else [])
+                if spooled:
+                    self.assert_job(output, start if end is None else None)
+                else:
+                    self.assert_job(output, document + b"\x04" if end is None else document[:end])
         # A page whose own end does not go out is not reported.
         shown = b"%!PS-Adobe-3.0\n%%Page: 1 1\nshowpage\n%%Page: 2 2\nshowpage\n"
-        self.assert_job(self.cancel_at(shown, len(shown) - 3, False), shown[:-len(b"showpage\n")])
-        self.assert_pages(1)
+        output, _, messages = self.cancel_at(shown, len(shown) - 3, False)
+        self.assert_job(output, shown[:-len(b"showpage\n")])
+        self.assertEqual(messages, b"PAGE: 1 1\n")
         # Cancelled on its way to the printer, in the midst of a picture: the page is over where the next one begins.
         picture = start + b"%%Page: 1 1\n" + inner.replace(b"%%Trailer\n", b"%%Page: 2 2\n0 0 moveto\n" * 4 * PIPE)
         process = self.start(file=self.write("document.ps", picture + b"%%Page: 2 2\n" + page * 99), spooled=True)
         output = process.stdout.read(3 * PIPE)
         self.cancel_when_waiting(process)
         output += process.stdout.read()
-        self.assertEqual(self.end(process), 0)
+        self.end(process)
         self.assert_job(output, picture)
 
     def test_spooled_job_copy_has_the_document_once(self):
@@ -332,19 +318,18 @@ class Faults(unittest.TestCase):
     def test_cancelled_while_the_printer_waits(self):
         document = pages(600)
         path = self.write("document.ps", document)
-        for spooled in (False, True):
-            for offset in (1, 3000, PIPE, 5 * PIPE):
-                with self.subTest(spooled=spooled, offset=offset):
-                    process = self.start(file=path, spooled=spooled)
-                    output = self.received(process, offset)
-                    self.cancel_when_waiting(process)
-                    output += process.stdout.read()
-                    self.assertEqual(self.end(process), 0)
-                    sent = output.partition(ENTER)[2].removesuffix(TRAILER)
-                    self.assertIn(len(sent), [end[spooled] for end in page_end_lines(document)])
-                    self.assert_job(output, document[:len(sent)])
-                    self.assertLess(len(sent), len(document))
-                    self.assertEqual(self.spool_files(), [])
+        for offset, spooled in itertools.product((1, 3000, PIPE, 5 * PIPE), MODES):
+            with self.subTest(offset=offset, spooled=spooled):
+                process = self.start(file=path, spooled=spooled)
+                output = self.received(process, offset)
+                self.cancel_when_waiting(process)
+                output += process.stdout.read()
+                self.end(process)
+                sent = output.partition(ENTER)[2].removesuffix(TRAILER)
+                self.assertIn(len(sent), [end[spooled] for end in page_end_lines(document)])
+                self.assert_job(output, document[:len(sent)])
+                self.assertLess(len(sent), len(document))
+                self.assertEqual(self.spool_files(), [])
 
     def test_disk_full_under_the_files_of_a_job(self):
         document = pages(200)
@@ -352,7 +337,7 @@ class Faults(unittest.TestCase):
         def limit():
             signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
             resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
-        for size, spooled in itertools.product((0, 1, 100, 4096, len(document) - 1), (False, True)):
+        for size, spooled in itertools.product((0, 1, 100, 4096, len(document) - 1), MODES):
             with self.subTest(size=size, spooled=spooled):
                 output = self.run_job(document, spooled=spooled, preexec_fn=limit,
                                       program=FILTER if spooled else COPYING_FILTER)
@@ -365,8 +350,7 @@ class Faults(unittest.TestCase):
 
     def test_disk_full_under_standard_output(self):
         with open("/dev/full", "wb") as full:
-            process = self.start(file=self.write("document.ps", pages(200)), stdout=full)
-            self.assertEqual(self.end(process), 0)
+            self.end(self.start(file=self.write("document.ps", pages(200)), stdout=full))
 
     def test_no_temporary_directory(self):
         for path in (self.folder / "missing", self.write("file", b""), "", f"{self.folder}/missing" + "/x" * 2500):
@@ -377,24 +361,20 @@ class Faults(unittest.TestCase):
                     self.assert_job(self.run_job(b"ep\n", spooled=True, **settings), None)
 
     def test_ppds_that_are_none(self):
-        attributes = "".join(f'*OVFiller{number:06}: "{"value " * 40}"\n' for number in range(190_000))
-        contents = {"missing.ppd": None, "empty.ppd": b"", "junk.ppd": os.urandom(100_000),
-                    "compressed.ppd": b"\x1f\x8b\x08\x00" + os.urandom(10_000), "line.ppd": b"*" + b"x" * 50_000_000,
-                    "large.ppd": PPD_HEAD + attributes}
-        paths = [self.folder, "", *(self.folder / name for name in contents)]
-        for name, content in contents.items():
-            if content is not None:
-                self.write(name, content)
-        for path in paths:
+        attributes = b"".join(b'*OVFiller%06d: "%s"\n' % (number, b"value " * 40) for number in range(190_000))
+        contents = (b"", os.urandom(100_000), b"\x1f\x8b\x08\0" + os.urandom(10_000), b"*" + b"x" * 50_000_000,
+                    PPD_HEAD + attributes)
+        for path in (self.folder, "", self.folder / "missing", *(self.write(f"{len(content)}.ppd", content)
+                                                                 for content in contents)):
             with self.subTest(ppd=path):
                 self.assert_job(self.run_job(b"ep\n", environment={"PPD": str(path)}), b"ep\n\x04")
 
     def test_closed_descriptors(self):
         """No file of the filter's takes their place: the output would go to the copy, the messages to the printer."""
-        self.ppds[True].write_text(PPD_HEAD + '*OVPSDecompMode: "1"\n*OVPageLogMethod: "PageComments"\n')
+        self.ppds[True].write_bytes(self.ppds[True].read_bytes() + b'*OVPageLogMethod: "PageComments"\n')
         document = b"%!PS-Adobe-3.0\n%%Page: 1 1\n" + pages(9)
-        whole = [self.run_job(document, spooled=spooled) for spooled in (False, True)]
-        for closed, spooled in itertools.product(((0,), (0, 2), (1,), (0, 1, 2)), (False, True)):
+        whole = [self.run_job(document, spooled=spooled) for spooled in MODES]
+        for closed, spooled in itertools.product(((0,), (0, 2), (1,), (0, 1, 2)), MODES):
             with self.subTest(closed=closed, spooled=spooled):
                 output = self.run_job(document, spooled=spooled, program=FILTER if spooled else COPYING_FILTER,
                                       preexec_fn=lambda: [os.close(fd) for fd in closed])
@@ -403,28 +383,25 @@ class Faults(unittest.TestCase):
                     self.assertEqual(copy.read_bytes(), whole[False])
                     copy.unlink()
 
-    def test_long_options(self):
+    def test_long_options_and_counts_without_measure(self):
         longest = os.sysconf("SC_PAGESIZE") * 32 - 1
         items = [f"{TICKET}ZPIFCommandTicket_{n}=0,1,2,3 {TICKET}ZPIFCoverValueTicket_{n}=0,1,0,2" for n in range(2000)]
-        for options in ("x" * longest, "a=" + "y" * longest, "'" * longest, "{" * longest, "/" * longest,
-                        " ".join(f"o{n}={n}" for n in range(longest // 5)),
-                        f"{TICKET}ZPIFCoverCountTicket=2000 " + " ".join(items),
-                        TICKET + "JBAUserPasswordTextEditTicket=" + "A" * longest,
-                        TICKET + "WMARKTextTicket=" + "/049" * (longest // 4)):
-            with self.subTest(options=options[:80]):
-                self.assert_job(self.run_job(b"ep\n", options=options[:longest]), b"ep\n\x04")
-
-    def test_counts_without_measure(self):
-        for count in ("2000000000", "2147483647", "-2147483648", "99999999999999999999"):
-            with self.subTest(count=count):
-                # Copies go to the page log only.
-                output = self.run_job(b"ep\n", copies=count, options=" ".join(f"{name}={count}" for name in (
-                    TICKET + "ZPIFCoverCountTicket", TICKET + "ZPIFInsertionCountTicket",
-                    TICKET + "ZPIFExceptionCountTicket", TICKET + "PrintTypeTicketKey",
-                    TICKET + "PrintTypeProductTypeTicketKey", TICKET + "WMARKAngleTicket", "number-up",
-                    "com.apple.print.PrintSettings.PMLayoutRows..n.", "com.apple.print.PrintSettings.PMCopies..n.",
-                    "com.apple.print.PrintSettings.PMLayoutColumns..n.", "orientation-requested", "copies")))
-                self.assert_job(output, b"ep\n\x04")
+        calls = [(options, "1") for options in (
+            "x" * longest, "a=" + "y" * longest, "'" * longest, "{" * longest, "/" * longest,
+            " ".join(f"o{n}={n}" for n in range(longest // 5)),
+            f"{TICKET}ZPIFCoverCountTicket=2000 " + " ".join(items),
+            TICKET + "JBAUserPasswordTextEditTicket=" + "A" * longest,
+            TICKET + "WMARKTextTicket=" + "/049" * (longest // 4))]
+        tickets = ("ZPIFCoverCountTicket", "ZPIFInsertionCountTicket", "ZPIFExceptionCountTicket", "PrintTypeTicketKey",
+                   "PrintTypeProductTypeTicketKey", "WMARKAngleTicket")
+        settings = ("PMLayoutRows..n.", "PMCopies..n.", "PMLayoutColumns..n.")
+        counted = [TICKET + name for name in tickets] + ["number-up", "orientation-requested", "copies"]
+        counted += ["com.apple.print.PrintSettings." + name for name in settings]
+        calls += [(" ".join(f"{name}={count}" for name in counted), count)
+                  for count in ("2000000000", "2147483647", "-2147483648", "99999999999999999999")]
+        for options, copies in calls:
+            with self.subTest(options=options[:80], copies=copies):
+                self.assert_job(self.run_job(b"ep\n", options=options[:longest], copies=copies), b"ep\n\x04")
 
     def plant(self, put):
         """Puts something in the place of every copy of the next minute."""
@@ -471,7 +448,7 @@ class Faults(unittest.TestCase):
                 self.assertEqual([mode for mode in modes if mode != 0o676], [0o600])
                 process.stdin.close()
                 self.assert_job(process.stdout.read(), b"\x04")
-                self.assertEqual(self.end(process), 0)
+                self.end(process)
                 self.assertEqual({path.stat().st_mode & 0o777 for path in self.spool_files()}, {0o676})
 
     def blobs(self, output):
@@ -481,7 +458,7 @@ class Faults(unittest.TestCase):
         """It can neither take an algorithm away nor the provider that has them."""
         for number, section in enumerate(("alg_section = a\n[a]\ndefault_properties = fips=yes",
                                           "providers = p\n[p]\nbase = b\n[b]\nactivate = 1")):
-            path = self.write(f"{number}.cnf", f"openssl_conf = c\n[c]\n{section}\n")
+            path = self.write(f"{number}.cnf", f"openssl_conf = c\n[c]\n{section}\n".encode())
             with self.subTest(section=section):
                 output = self.run_job(b"ep\n", options=STORED, environment={"OPENSSL_CONF": str(path)})
                 self.assertEqual([blob.password for blob in self.blobs(output)], PASSWORDS)
@@ -515,11 +492,12 @@ class Faults(unittest.TestCase):
                     held += memory.read(end - begin)
         process.stdin.close()
         blobs = self.blobs(process.stdout.read())
-        self.assertEqual(self.end(process), 0)
+        self.end(process)
         self.assertIn(STORED.encode(), held)
         self.assertEqual(len(blobs), 2)
         # Other things may lie over a part of it.
-        secrets = [("storage key", bytes.fromhex(STORAGE_KEY)), *(item for blob in blobs for item in vars(blob).items())]
+        secrets = [("storage key", bytes.fromhex(STORAGE_KEY))]
+        secrets += [item for blob in blobs for item in vars(blob).items()]
         self.assertEqual([name for name, secret in secrets for at in range(0, len(secret) - 15, 8)
                           if secret[at:at + 16] in held], [])
 

@@ -1,7 +1,8 @@
 """Ghostscript as the printer: watermarks on documents of many producers, which the print system's own filters have laid
-out. Every page is marked, and nothing else changes by a pixel.
+out. Every page is marked, and nothing else changes by a pixel, nor anything in the jobs that cups_jobs.py captured.
 
-usage: rendered_documents.py FILTER PPD [FOLDER]: with a folder, the pages that were wrong are left there.
+usage: rendered_documents.py FILTER PPD ORVANE-JOB DOCUMENT FOLDER-OF-ITS-JOBS [FOLDER]
+With a last folder, the pages that were wrong are left there.
 """
 
 import functools
@@ -15,7 +16,7 @@ from pathlib import Path
 
 from private_cups import without_collate
 
-FILTER, PPD, *KEEP = sys.argv[1:]
+FILTER, PPD, TOOL, SAMPLE, JOBS, *KEEP = sys.argv[1:]
 DPI = 20
 MARK = {"Name": "a", "Type": 0, "OnlyFirst": 0, "Text": "(DRAFT)", "Font": "Helvetica-Bold", "FontSize": 90,
         "ColorR": 0.8, "ColorG": 0.2, "ColorB": 0.2, "Density": 100, "Angle": 45}
@@ -39,9 +40,9 @@ def filtered(document, tickets, ppd):
     return job.split(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n", 1)[1].rsplit(b"\x04", 1)[0]
 
 
-# Runs the files of these names as a printer does: what one does to the interpreter is undone before the next. After each
-# comes a tiny page.
-JOBS = """%%!
+# Runs each of the files as a printer does: what one does to the interpreter is undone before the next. After each comes
+# a tiny page.
+RUN_EACH = """%%!
 /run_alone{/jobsave save def(r)file cvx stopped{handleerror}if clear cleardictstack false setglobal
 userdict/jobsave get restore}bind def
 [%s]{run_alone/jobsave save def<</PageSize[%d %d]>>setpagedevice showpage jobsave restore}forall
@@ -54,7 +55,7 @@ def rendered(documents):
         files = [Path(folder, f"{number}.ps") for number in range(len(documents))]
         for file, document in zip(files, documents):
             file.write_bytes(document)
-        jobs = JOBS % ("".join(f"({file})" for file in files), *TINY)
+        jobs = RUN_EACH % ("".join(f"({file})" for file in files), *TINY)
         said = run("gs", "-q", "-dSAFER", f"--permit-file-read={folder}/*.ps", "-dBATCH", "-dNOPAUSE",
                    "-sDEVICE=ppmraw", f"-r{DPI}", f"-sOutputFile={folder}/%06d.ppm", "-", data=jobs.encode())
         pictures = [path.read_bytes() for path in sorted(Path(folder).glob("*.ppm"))]
@@ -107,6 +108,19 @@ class RenderedDocuments(unittest.TestCase):
                     width, height, pixels = pages[marked][n - 1]
                     Path(KEEP[0], f"{label}-{n}.ppm").write_bytes(b"P6 %d %d 255\n" % (width, height) + pixels)
                 self.assertEqual(wrong, [], "pages")
+
+    def test_captured_jobs_have_the_pages_of_their_document(self):
+        with tempfile.NamedTemporaryFile() as file:
+            documents = [Path(SAMPLE).read_bytes()]
+            for queue in ("office", "production"):
+                self.assertIn(b": a whole job", run(TOOL, "show", "--postscript", file.name, f"{JOBS}/{queue}.job"))
+                documents.append(Path(file.name).read_bytes())
+        expected, *captured = rendered(documents).values()
+        self.assertEqual([pages == expected for pages in captured], [True] * 2)
+        for width, height, pixels in expected:
+            self.assertEqual((width, height), tuple(round(points * DPI / 72) for points in A4))
+            self.assertGreater(len(pixels) - pixels.count(b"\xff"), 400)  # has ink
+        self.assertEqual(len(expected), 4)
 
     def laid_out(self, document, kind, *options, ppd=PPD):
         with tempfile.NamedTemporaryFile() as file:
@@ -201,12 +215,12 @@ class RenderedDocuments(unittest.TestCase):
         # Shift-JIS A1 would be one byte of kana in a font of one byte; 00 41 01 42 are codes of two fonts.
         self.check(*((f"accents {text}", document(""), [A4] * 2, MARK | {"Text": text, "Font": "Times-Roman"},
                       functools.partial(centred, show=shown, font=latin)) for text, shown in accents),
-                   ("composite", document(composite), [A4] * 2, MARK | {"Text": "(\\\\000A\\\\001a\u00e9)", "Font": "F"},
+                   ("composite", document(composite), [A4] * 2, MARK | {"Text": "(\\\\000A\\\\001aé)", "Font": "F"},
                     lambda size: composite + centred(size, "(\\000A\\001a)", "/F findfont")),
                    ("failure", document(failing), [None] * 2, MARK | {"Font": "F"}))
 
     def test_geometry_of_the_job(self):
-        """Paper, box and offsets of the tickets place the mark, at page markers too, where no attribute asks for more."""
+        """Paper, box and offsets of the tickets place the mark, also at page markers, for which no attribute asks."""
         markers = "/pgsave 0 def/bp{/pgsave save def}bind def/ep{pgsave restore showpage}bind def\n%%EndProlog\n"
         lines = "10 20 900{0 exch moveto 900 0 rlineto stroke}for\n"
         rows = []

@@ -1,25 +1,28 @@
 """Jobs through queues whose PPD says what its choices mean, against the same jobs with the tickets themselves.
 
-usage: ticket_jobs.py FILTER FILTER-THAT-KEEPS-A-COPY ORVANE-JOB PPD-FOLDER TEST-DATA DOCUMENT
+usage: ticket_jobs.py FILTER FILTER-THAT-KEEPS-A-COPY ORVANE-JOB PPD-FOLDER DOCUMENT
 """
 
 import os
 import re
+import shlex
 import signal
 import subprocess
 import sys
 import tempfile
 import unittest
+from pathlib import Path
 
 from private_cups import CupsJobs, wait_for
 
 from blobs import Blob
+from content import ENTER, PPD_HEAD, TICKET
 
-COPYING_FILTER, TOOL, PPDS, DATA, DOCUMENT = sys.argv[2:7]
+COPYING_FILTER, TOOL, PPDS, DOCUMENT = sys.argv[2:6]
 
-TICKET = "com.orvane.dlg.printsettings."
 PIN = "48150623"
 
+# Options of an office queue's PPD: a PIN, a text, a choice that holds the job; what IPP attributes they stand for.
 OPTIONS = r"""
 *cupsJobPassword: "11111111"
 *cupsJobAccountId: True
@@ -53,10 +56,13 @@ OPTIONS = r"""
 *OVTestHold Proof/Proof: ""
 *CloseUI: *OVTestHold
 """
+# What the rows of the queue under test say of them.
 ROWS = r"""
 *OVSendDefaults: True
-*OVTicket OVTestPIN.Custom: ".PrintTypeTicketKey=2 .PrintTypeUserNameTicketKey={user} .PrintTypePasswordTicketKey={password}"
-*OVTicket job-password: ".PrintTypeTicketKey=2 .PrintTypeUserNameTicketKey={user} .PrintTypePasswordTicketKey={password}"
+*OVTicket OVTestPIN.Custom: ".PrintTypeTicketKey=2 .PrintTypeUserNameTicketKey={user}"
+*OVTicket OVTestPIN.Custom: ".PrintTypePasswordTicketKey={password}"
+*OVTicket job-password: ".PrintTypeTicketKey=2 .PrintTypeUserNameTicketKey={user}"
+*OVTicket job-password: ".PrintTypePasswordTicketKey={password}"
 *OVTicket OVTestHold.Proof: ".PrintTypeTicketKey=3 .PrintTypeUserNameTicketKey={user}"
 *OVTicket OVTestText.Draft: ".WMARKTextTicket=(Draft)"
 *OVTicket OVTestText.Custom: ".WMARKTextTicket={ps}"
@@ -76,92 +82,40 @@ DEFAULTS = ["OVStaple=None", "OVPunch=None", "OVNumPunchHoles=2Holes", "OVSignat
             "OVTonerSaver=false", "OVTonerReductionRate=Percent0", "OVLineWeightAdjustment=Normal", "OVColorMode=Color",
             "sides=one-sided", TICKET + "WMARKTypeTicket=1"]
 
-HELD = ["PrintTypeTicketKey=2", "PrintTypeUserNameTicketKey=taro", "PrintTypePasswordTicketKey={stored}"]
-ACCOUNT = ["JBAManageTypeListTicketKey=2", "JBAUserSettingRadioBtnTicket=1", "JBAUserIDListCtrlTicket=1",
-           "JBAAccountIDTextEditTicket='KST 7'"]
-MARK = ["WMARKNameTicket=x", "WMARKTypeTicket=0", "WMARKFontTicket=Courier"]
+HELD = ".PrintTypeTicketKey=2 .PrintTypeUserNameTicketKey=taro .PrintTypePasswordTicketKey={stored}"
+PROOF = ".PrintTypeTicketKey=3 .PrintTypeUserNameTicketKey=taro"
+ACCOUNT = ".JBAManageTypeListTicketKey=2 .JBAUserSettingRadioBtnTicket=1 .JBAUserIDListCtrlTicket="
+MARK = " .WMARKNameTicket=x .WMARKTypeTicket=0 .WMARKFontTicket=Courier"
 
-
-def mark(text):
-    return [f"WMARKTextTicket={text}", *MARK]
-
-
-class Jobs(CupsJobs):
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        with open(os.path.join(PPDS, "office.ppd"), encoding="utf-8") as file:
-            ppd = "".join(line for line in file if not line.startswith(("*OVTicket", "*OVSendDefaults", "*cupsJob")))
-        for queue, rows in (("rows", ROWS), ("set", ROWS), ("plain", "")):
-            path = cls.cups.path(queue + ".ppd")
-            with open(path, "w", encoding="utf-8") as file:
-                file.write(ppd + OPTIONS + rows)
-            cls.cups.add_queue(queue, path, cls.printer)
-
-    def taken(self, submit):
-        """What the printer takes of a job: its header with the blobs opened, and its document."""
-        job, _ = super().taken(submit)
-        self.assertNotIn(PIN.encode(), job)
-        header, _, document = job.partition(b"@PJL ENTER LANGUAGE=POSTSCRIPT\n")
-        header = re.sub(rb'(KEY=")([^"]{492})"', lambda blob: blob[1] + b"{" + Blob(blob[2]).password + b'}"', header)
-        return header.split(b"\n"), document.split(b"\n")
-
-    def lp(self, queue, *options):
-        return self.taken(lambda: self.cups.lp(queue, DOCUMENT, "Monthly report", options))
-
-    def check(self, taken, explicit):
-        """Compares with a job on the queue without rows. Its document may name more features, of options that the job
-        with rows left to their defaults."""
-        explicit = [option.format(stored=self.stored(PIN)) for option in explicit]
-        header, document = self.lp("plain", *DEFAULTS, *explicit)
-        self.assertEqual(taken[0], header)
-        shown = [[line for line in lines if line.endswith((b" show", b" selectfont"))]
-                 for lines in (taken[1], document)]
-        self.assertEqual(*shown)
-
-    def stored(self, password):
-        return subprocess.run([TOOL, "password"], input=password, capture_output=True, text=True,
-                              check=True).stdout.strip()
-
-    def tickets(self, *tickets):
-        return [TICKET + ticket for ticket in tickets]
-
-    def test_lp(self):
-        for options, explicit in (
-                ([], []),
-                ([f"OVTestPIN=Custom.{PIN}"], self.tickets(*HELD)),
-                ([f"OVTestPIN={PIN}", "OVTestHold=Proof"], self.tickets(*HELD)),
-                (["OVTestHold=Proof"], self.tickets("PrintTypeTicketKey=3", "PrintTypeUserNameTicketKey=taro")),
-                (["OVTestText=Draft", "OVTonerSaver=Mode1"], ["OVTonerSaver=Mode1", *self.tickets(*mark("(Draft)"))]),
-                (["OVTestText=Custom.Für-(Yamada)"], self.tickets(*mark(r"(F\\374r-\\050Yamada\\051)"))),
-                (["sides=two-sided-short-edge"], ["sides=two-sided-short-edge"]),
-                (["Duplex=DuplexNoTumble"], ["sides=two-sided-long-edge"]),
-                (["OVStaple=LeftDouble", TICKET + "TabMarginSwitchTicket=0"],
-                 ["OVStaple=LeftDouble", *self.tickets("TabMarginSwitchTicket=0")])):
-            with self.subTest(options):
-                self.check(self.lp("rows", *options), explicit)
-
-    def test_attributes_of_ipp(self):
-        for attributes, explicit in (
-                ("ATTR keyword sides two-sided-long-edge", ["sides=two-sided-long-edge"]),
-                ("ATTR enum finishings 28", ["OVStaple=LeftDouble"]),
-                ("ATTR keyword media iso_a3_297x420mm", ["media=A3"]),
-                ("ATTR keyword print-color-mode monochrome", ["OVColorMode=Black"]),
-                ('ATTR name job-account-id "KST 7"', self.tickets(*ACCOUNT)),
-                ("ATTR name job-accounting-user-id yamada",
-                 self.tickets(*ACCOUNT[:2], "JBAUserIDListCtrlTicket=2", "JBAUserIDTextEditTicket=yamada")),
-                (f'ATTR octetString job-password "{PIN}"', self.tickets(*HELD))):
-            with self.subTest(attributes):
-                self.check(self.taken(lambda: self.ipp("rows", attributes)), explicit)
-
-    def ipp(self, queue, attributes):
-        path = self.cups.path("job.test")
-        operation = "GROUP operation-attributes-tag\n"
-        if "job-password" in attributes:
-            operation += attributes + "\nATTR keyword job-password-encryption none\n"
-            attributes = ""
-        with open(path, "w", encoding="utf-8") as file:
-            file.write(f"""{{
+# Options of lp, and IPP attributes (type, name, value), with what the queue without rows takes for the same.
+LP = (
+    ("", ""),
+    (f"OVTestPIN=Custom.{PIN}", HELD),
+    (f"OVTestPIN={PIN} OVTestHold=Proof", HELD),
+    ("OVTestHold=Proof", PROOF),
+    ("OVTestText=Draft OVTonerSaver=Mode1", "OVTonerSaver=Mode1 .WMARKTextTicket=(Draft)" + MARK),
+    ("OVTestText=Custom.Für-(Yamada)", r"'.WMARKTextTicket=(F\\374r-\\050Yamada\\051)'" + MARK),
+    ("sides=two-sided-short-edge", "sides=two-sided-short-edge"),
+    ("Duplex=DuplexNoTumble", "sides=two-sided-long-edge"),
+    (f"OVStaple=LeftDouble {TICKET}TabMarginSwitchTicket=0", "OVStaple=LeftDouble .TabMarginSwitchTicket=0"),
+)
+IPP = (
+    ("keyword sides two-sided-long-edge", "sides=two-sided-long-edge"),
+    ("enum finishings 28", "OVStaple=LeftDouble"),
+    ("keyword media iso_a3_297x420mm", "media=A3"),
+    ("keyword print-color-mode monochrome", "OVColorMode=Black"),
+    ('name job-account-id "KST 7"', ACCOUNT + """1 ".JBAAccountIDTextEditTicket='KST 7'" """),
+    ("name job-accounting-user-id yamada", ACCOUNT + "2 .JBAUserIDTextEditTicket=yamada"),
+    (f'octetString job-password "{PIN}"', HELD),
+)
+INHOUSE = """OVTonerSaver=Mode2 sides=two-sided-short-edge ".WMARKTextTicket='(In house)'" """ + MARK
+# Commands that set a queue's defaults, one after the other.
+SET = (
+    ("lpadmin -p set -o OVTonerSaver=Mode2 -o Duplex=DuplexTumble -o OVTestText=\"'Custom.In house'\"",
+     INHOUSE),
+    ("lpoptions -p set -o OVTestHold=Proof", f"{INHOUSE} {PROOF}"),
+)
+PRINT_JOB = """{{
 OPERATION Print-Job
 GROUP operation-attributes-tag
 ATTR charset attributes-charset utf-8
@@ -169,58 +123,91 @@ ATTR naturalLanguage attributes-natural-language en
 ATTR uri printer-uri $uri
 ATTR name requesting-user-name taro
 ATTR name job-name "Monthly report"
-{operation.split(chr(10), 1)[1]}
+{operation}
 GROUP job-attributes-tag
 ATTR integer number-up 1
-{attributes}
-FILE {DOCUMENT}
+{job}
+FILE {document}
 STATUS successful-ok
 DISPLAY job-id
 }}
-""")
+"""
+
+
+class Jobs(CupsJobs):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        office = Path(PPDS, "office.ppd").read_text("utf-8")
+        ppd = re.sub(r"^\*(OVTicket|OVSendDefaults|cupsJob).*\n", "", office, flags=re.M)
+        for queue, rows in (("rows", ROWS), ("set", ROWS), ("plain", "")):
+            path = Path(cls.cups.path(queue + ".ppd"))
+            path.write_text(ppd + OPTIONS + rows, "utf-8")
+            cls.cups.add_queue(queue, path, cls.printer)
+        cls.stored = subprocess.run([TOOL, "password"], input=PIN, capture_output=True, text=True).stdout.strip()
+
+    def taken(self, submit):
+        """What the printer takes of a job: its header with the blobs opened, and the lines that draw its mark."""
+        job, _ = super().taken(submit)
+        self.assertNotIn(PIN.encode(), job)
+        header, _, document = job.partition(ENTER)
+        header = re.sub(rb'(KEY=")([^"]{492})"', lambda blob: blob[1] + b"{" + Blob(blob[2]).password + b'}"', header)
+        return header.split(b"\n"), re.findall(rb".* (?:show|selectfont)\n", document)
+
+    def lp(self, queue, options):
+        return self.taken(lambda: self.cups.lp(queue, DOCUMENT, "Monthly report", options))
+
+    def check(self, what, taken, explicit):
+        """Compares with a job on the queue without rows."""
+        options = [re.sub(r"^\.", TICKET, option) for option in shlex.split(explicit.format(stored=self.stored))]
+        with self.subTest(what):
+            self.assertEqual(taken, self.lp("plain", DEFAULTS + options))
+
+    def ipp(self, attribute):
+        is_password = "job-password" in attribute
+        operation = f"ATTR {attribute}\nATTR keyword job-password-encryption none" if is_password else ""
+        path = Path(self.cups.path("job.test"))
+        job = "" if is_password else f"ATTR {attribute}"
+        path.write_text(PRINT_JOB.format(operation=operation, job=job, document=DOCUMENT))
         host = self.cups.path("cups.sock").replace("/", "%2F")
-        reply = self.cups.run("ipptool", "-tv", f"ipp://{host}/printers/{queue}", path)
-        return f"{queue}-{re.search(r'job-id .*= ([0-9]+)', reply)[1]}"
+        reply = self.cups.run("ipptool", "-tv", f"ipp://{host}/printers/rows", str(path))
+        return f"rows-{re.search(r'job-id .*= ([0-9]+)', reply)[1]}"
 
-    def test_defaults(self):
-        for command, explicit in (
-                (["lpadmin", "-p", "set", "-o", "OVTonerSaver=Mode2", "-o", "Duplex=DuplexTumble", "-o",
-                  "OVTestText='Custom.In house'"], ["OVTonerSaver=Mode2", "sides=two-sided-short-edge",
-                                                  *self.tickets(*mark(r"'(In house)'"))]),
-                (["lpoptions", "-p", "set", "-o", "OVTestHold=Proof"],
-                 ["OVTonerSaver=Mode2", "sides=two-sided-short-edge", *self.tickets(
-                     *mark(r"'(In house)'"), "PrintTypeTicketKey=3", "PrintTypeUserNameTicketKey=taro")])):
-            self.cups.run(*command)
-            with self.subTest(command):
-                self.check(self.lp("set"), explicit)
+    def test_jobs_are_those_of_the_tickets(self):
+        for options, explicit in LP:
+            self.check(options, self.lp("rows", options.split()), explicit)
+        for attribute, explicit in IPP:
+            self.check(attribute, self.taken(lambda: self.ipp(attribute)), explicit)
+        for command, explicit in SET:
+            self.cups.run(*shlex.split(command))
+            self.check(command, self.lp("set", []), explicit)
 
-
-class Secrets(unittest.TestCase):
-    def test_stand_nowhere_in_clear(self):
+    def test_tool_finds_the_PPD_of_a_queue(self):
         with tempfile.TemporaryDirectory() as folder:
-            ppd = os.path.join(folder, "queue.ppd")
-            with open(ppd, "w", encoding="utf-8") as file:
-                file.write('*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
-                           '*LanguageEncoding: ISOLatin1\n*OVPSDecompMode: "1"\n' + OPTIONS + ROWS)
+            said = self.cups.run("env", f"TMPDIR={folder}", TOOL, "options", "rows", "OVTestHold=Proof")
+            self.assertRegex(said, "  HOLD=PROOF +a sample is printed")
+            self.assertEqual(os.listdir(folder), [])
+
+    def test_secrets_stand_nowhere_in_clear(self):
+        with tempfile.TemporaryDirectory() as folder:
+            ppd = Path(self.cups.path("secrets.ppd"))
+            ppd.write_text(PPD_HEAD.decode() + '*OVPSDecompMode: "1"\n' + OPTIONS + ROWS)
             job = subprocess.Popen(
-                [COPYING_FILTER, "1", "taro", "Report", "1", f"OVTestPIN={PIN} job-password={PIN}"], stdin=subprocess.PIPE,
-                stdout=subprocess.PIPE, stderr=subprocess.PIPE, env={"PPD": ppd, "TMPDIR": folder, "PATH": "/usr/bin:/bin"})
+                [COPYING_FILTER, "1", "taro", "Report", "1", f"OVTestPIN={PIN} job-password={PIN}"],
+                stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                env={"PPD": str(ppd), "TMPDIR": folder, "PATH": "/usr/bin:/bin"})
             # A job that is cancelled leaves its spool file, so that it can be looked at.
             job.stdin.write(b"%!PS\nep\n")
             job.stdin.flush()
             messages = bytearray()
-            wait_for(lambda: messages.extend(os.read(job.stderr.fileno(), 4096)) or b"PAGE:" in messages, "the first page")
+            wait_for(lambda: messages.extend(os.read(job.stderr.fileno(), 4096)) or b"PAGE:" in messages, "a page")
             job.send_signal(signal.SIGTERM)
             job.stdin.write(b"ep\n" * 100)
             output, rest = job.communicate()
-            messages += rest
-            os.remove(ppd)
-            files = [os.path.join(folder, name) for name in os.listdir(folder)]
-            self.assertEqual(len(files), 2, files)  # the job copy and the spool file
-            texts = [open(name, "rb").read() for name in files]
+            texts = [path.read_bytes() for path in Path(folder).iterdir()]  # the job copy and the spool file
+        self.assertEqual((len(texts), all(texts)), (2, True))
         self.assertIn(b"HOLDENCRYPTKEY", output)
-        self.assertTrue(all(texts))
-        for text in (output, messages, *texts):
+        for text in (output, messages + rest, *texts):
             self.assertNotIn(PIN.encode(), text)
 
 

@@ -1,6 +1,14 @@
-"""How the files under tests/data write bytes, and the short form of a header's lines; CONTRIBUTING.md has both."""
+"""How the files under tests/data write bytes, the short form of a header's lines (CONTRIBUTING.md has both), and what many
+tests have in common of PPDs, options and jobs."""
 
 import re
+
+PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
+            b'*LanguageEncoding: ISOLatin1\n')
+TICKET = "com.orvane.dlg.printsettings."
+UEL = b"\x1b%-12345X"
+ENTER = b"@PJL ENTER LANGUAGE=POSTSCRIPT\n"
+TRAILER = UEL + b"@PJL EOJ\n"
 
 CODES = {b"e": b"\x1b", b"r": b"\r", b"n": b"\n", b"t": b"\t", b"\\": b"\\"}
 

@@ -15,14 +15,11 @@ import unittest
 from pathlib import Path
 
 from blobs import Blob
-from content import content_line, line_of, unescape
+from content import ENTER, PPD_HEAD, TICKET, TRAILER, UEL, content_line, line_of, unescape
 
 FILTER, COPYING_FILTER = sys.argv[1:3]
 SAMPLES, DATA = map(Path, sys.argv[3:5])
 EXPLAIN = os.environ.get("ORVANE_JOB")  # the tool, which must know every line
-PPD_HEAD = (b'*PPD-Adobe: "4.3"\n*FormatVersion: "4.3"\n*FileVersion: "1.0"\n*LanguageVersion: English\n'
-            b'*LanguageEncoding: ISOLatin1\n')
-PREFIX = b"com.orvane.dlg.printsettings."
 DEFAULTS = {b"ppd": b"none", b"user": b"taro", b"title": b"Report", b"copies": b"1",
             b"environment": b"LANG=C TZ=JST-9 TMPDIR={folder}"}
 TOKEN = re.compile(rb"""(?:\\\{\d+ .*?\}|\{blob:[^}]*\}|'[^']*'|"[^"]*"|\S)+""")
@@ -128,7 +125,7 @@ class JobFile:
                 content = case[word] = Content([[None, argument]])
             elif word in (b"ticket", b"tickets", b"option"):
                 for option in argument.split() if word == b"tickets" else [argument]:
-                    case[b"options"] = case[b"options"] + [(b"" if word == b"option" else PREFIX) + unescape(option)]
+                    case[b"options"] = case[b"options"] + [(b"" if word == b"option" else TICKET.encode()) + unescape(option)]
             elif word == b"given":
                 self.give(case, argument)
             elif word == b"expect":
@@ -152,7 +149,7 @@ class JobFile:
             if name in DEFAULTS:
                 case[name] = unescape(value)
             else:
-                case[b"options"] = case[b"options"] + [(PREFIX if b"Ticket" in name else b"") + unescape(token)]
+                case[b"options"] = case[b"options"] + [(TICKET.encode() if b"Ticket" in name else b"") + unescape(token)]
 
     def append(self, case, row):
         """Appends a line to the case's document, which is empty at first."""
@@ -185,11 +182,33 @@ class JobFile:
 
 class Jobs(unittest.TestCase):
     maxDiff = None
+    lines = set()
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name)
+
+    @classmethod
+    def explain(cls, job):
+        """The tool must have words for every line. It gets those of the file's jobs in one job, at the end, unless a
+        document's screen code says what lines there are."""
+        header, _, document = job.partition(ENTER)
+        if b"TSCR" in document or b"TCPR" in document:
+            cls.show(job)
+        else:
+            cls.lines.update(line for line in header.replace(UEL, b"").splitlines(True) if line.startswith(b"@PJL "))
+
+    @classmethod
+    def show(cls, job):
+        if EXPLAIN:
+            shown = subprocess.run([EXPLAIN, "show", "--check"], input=job, capture_output=True)
+            assert (shown.returncode, shown.stdout, shown.stderr) == (0, b"", b""), shown
+
+    @classmethod
+    def tearDownClass(cls):
+        assert len(cls.lines) < 2000, "more than the tool looks at"
+        cls.show(UEL + b"".join(sorted(cls.lines)) + ENTER + b"\x04" + TRAILER)
 
     def run_filter(self, *arguments, program=FILTER, document=b"", ppd=None, variables=DEFAULTS[b"environment"]):
         variables = variables.replace(b"{folder}", bytes(self.folder)).split()
@@ -214,10 +233,7 @@ class Jobs(unittest.TestCase):
         document = bytes(case[b"document"])
         job = self.run_filter(*arguments, document=case.get(b"sent", document),
                               ppd=None if case[b"ppd"] == b"none" else path, variables=case[b"environment"])
-        if EXPLAIN:
-            shown = subprocess.run([EXPLAIN, "show", "--check"], input=job.stdout, capture_output=True)
-            self.assertEqual((shown.returncode, shown.stdout, shown.stderr), (0, b"", b""))
-
+        self.explain(job.stdout)
         expected = bytes(case[b"output"]) if b"output" in case else (
             bytes(case.get(b"header") or file.plain(case[b"ppd"])) + document + bytes(file.lines[b"trailer"]))
         sent_of_name = 32 if b"STRINGCODESET=UTF8" in expected else 96
@@ -259,7 +275,7 @@ def define_classes():
             if name in tests:  # names differ in letters only
                 name += f"_{len(tests)}"
             tests[name] = lambda self, file=file, case=case: self.check(file, case)
-        globals()["job_" + path.stem] = type("job_" + path.stem, (Jobs,), tests)
+        globals()["job_" + path.stem] = type("job_" + path.stem, (Jobs,), {"lines": set(), **tests})
 
 
 if __name__ == "__main__":
