@@ -13,7 +13,7 @@ struct PBindOptions {
     char bindPosition[kPBindTextSize];
     char trimming[kPBindTextSize];
     char cutPageSize[kPBindTextSize];
-    int32_t imagePosition; // not used and always -1, absent: no option has a name that begins with "no"
+    int32_t imagePosition; // not used: no option of a PPD has the name of its ticket
     char cutPositionTop[kPBindTextSize];
     char cutPositionFore[kPBindTextSize];
     char pageSize[kPBindTextSize];
