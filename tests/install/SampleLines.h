@@ -6,7 +6,6 @@
 #include "JBA.h"
 #include "PrintType.h"
 
-#include <algorithm>
 #include <span>
 #include <string>
 
@@ -22,27 +21,19 @@ static const CommandTable tables[] = {
     {"FeaturesFmtTable", {FeaturesFmtTable, static_cast<size_t>(FeaturesFmtTableNum)}},
 };
 
-static bool IsControlByte(const void *value)
-{
-    const void *const bytes[] = {&CTRLSym_ESC, &CTRLSym_PERCENTAGE, &CTRLSym_CR, &CTRLSym_LF, &CTRLSym_DOUBLE};
-    return std::ranges::count(bytes, value) != 0;
-}
-
-// The line as the printer gets it, with "value" for each text; says what is wrong where a symbol has no fitting value.
+// The line as the printer gets it, with "value" for each text.
 static std::string SampleLine(const FmtTableRow &row)
 {
     std::string line;
-    int32_t symbols = 0;
+    const void *const *value = row.symPara ? row.symPara->list : nullptr;
     for (const char *c = row.prtfmtStr; *c; c++) {
         const char pair[] = {c[0], c[1], '\0'};
         if (!IsCtrlSym(pair)) {
             line += *c;
             continue;
         }
-        const void *value = row.symPara->list[symbols++];
-        if (!value || IsControlByte(value) != (c[1] == 'c'))
-            return "a value that does not fit its symbol";
-        line += c[1] == 'c' ? std::string(1, *static_cast<const char *>(value)) : "value";
+        line += c[1] == 'c' ? std::string(1, *static_cast<const char *>(*value)) : "value";
+        value++;
         c++;
     }
     return line;
