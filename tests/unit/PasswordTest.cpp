@@ -7,6 +7,8 @@
 #include "Rows.h"
 #include "TestPPD.h"
 #include "TestTicket.h"
+#include "secblobenc-internal.h"
+#include "secblobenc-key-decoder.h"
 #include "secblobenc-sender.h"
 #include "secblobenc.h"
 
@@ -66,6 +68,13 @@ TEST(Password, WhatIsNoStoredOneStaysAsItIs)
         EXPECT_EQ(std::string(field.begin(), field.end()), text + std::string(field.size() - text.size(), '\0'));
         return {std::to_string(present), text, messages};
     });
+}
+
+// Its 48 bytes would begin with "/"; as byte values they are too long for the getter.
+TEST(Password, IsNotStoredWhereItCannotBeReadAgain)
+{
+    EXPECT_EQ(StorePassword("password no 1013" + std::string(32, 'x')), "");
+    EXPECT_NE(StorePassword("password no 1014" + std::string(32, 'x')), "");
 }
 
 // While it is looked for: what no call may leave in memory that it gives back, and how often that was there.
@@ -213,6 +222,29 @@ TEST(SecureBlob, StorageReportsTheStepThatFailed)
         });
         return {std::to_string(status), messages};
     });
+}
+
+TEST(SecureBlob, StepsTakeNoShortKeyAndNeedTheirRoom)
+{
+    unsigned char out[256];
+    size_t length = 0;
+    for (const auto operation : {PlatformAESCBCEncrypt, PlatformAESCBCDecrypt})
+        EXPECT_EQ(operation({seed1, 31}, {seed3, 16}, {seed2, 32}, std::span(out), length), kPlatformBadArgument);
+    PlatformError error;
+    const std::vector<unsigned char> key = SecBlobEnc_Decode_Key(RSA_PUBKEY_2048_OFFICIAL);
+    for (const size_t room : {255u, 256u})
+        EXPECT_EQ(PlatformRSAOAEPEncrypt(key, {seed2, 32}, {out, room}, length, error),
+                  room < 256 ? kPlatformOutputTooSmall : 0);
+}
+
+TEST(SecureBlob, DataIsWrittenInPlaceOfOlderData)
+{
+    const std::string path = testing::TempDir() + std::to_string(getpid()) + ".data";
+    outputData("older", 5, path.c_str());
+    outputData("abc", 3, path.c_str());
+    std::ifstream file(path);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "abc");
+    unlink(path.c_str());
 }
 
 TEST(SecureBlob, ReportsAKeyThatCannotBeDerived)

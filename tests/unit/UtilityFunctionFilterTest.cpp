@@ -1,4 +1,5 @@
-// The lookup of a host, the choice among its addresses, their compact form, the cut of its name.
+// The lookup of a host, the choice among its addresses, their compact form, the cut of its name;
+// and what the kernel is asked.
 #include "UtilityFunctionFilter.h"
 
 #include "Rows.h"
@@ -8,6 +9,7 @@
 #include <dlfcn.h>
 #include <netdb.h>
 #include <sstream>
+#include <sys/resource.h>
 #include <unistd.h>
 
 // Stands in for the system's lookup: what it was asked for, its error, and whether it gives any name two addresses.
@@ -22,6 +24,14 @@ extern "C" int getaddrinfo(const char *name, const char *service, const addrinfo
     if (error || !standsIn)
         return error ? error : lookUp(name, service, hints, found);
     return lookUp("2001:db8::5", service, hints, found) | lookUp("192.0.2.33", service, hints, &(*found)->ai_next);
+}
+
+// Nobody is asked for the name of an address.
+extern "C" int getnameinfo(const sockaddr *address, socklen_t size, char *host, socklen_t hostSize, char *service,
+                           socklen_t serviceSize, int flags)
+{
+    static const auto name = reinterpret_cast<decltype(&getnameinfo)>(dlsym(RTLD_NEXT, "getnameinfo"));
+    return flags & NI_NUMERICHOST ? name(address, size, host, hostSize, service, serviceSize, flags) : EAI_FAIL;
 }
 
 // The address as the lookup gives it; bytes that are none for any other word.
@@ -58,9 +68,22 @@ TEST(HostAddress, StoresWithinTheDestination)
     EXPECT_EQ(TextOf(text), "192.0");
     EXPECT_TRUE(getHostAddress("127.0.0.1", text.data(), 6)); // it has an address, though none to report
     EXPECT_EQ(TextOf(text), "");
+    HostLookup ended = {text.data(), 6, false, {Address("192.0.2.33")}};
+    MyCFHostClientCallBack(&ended, 0, "host");
+    EXPECT_EQ(TextOf(text), "192.0");
+    EXPECT_TRUE(ended.result && ended.addresses.empty());
     EXPECT_FALSE(getHostAddress("192.0.2.33", text.data(), -1));
     EXPECT_FALSE(getHostAddress(nullptr, text.data(), 6));
     EXPECT_FALSE(getHostAddress("192.0.2.33", nullptr, 6));
+}
+
+TEST(HostAddress, IsNoLongerThanAnyOfTheSystem)
+{
+    PlatformAddress address = Address("192.0.2.33");
+    address.resize(sizeof(sockaddr_storage) + 1);
+    char text[kPlatformAddressText] = "old";
+    EXPECT_FALSE(PlatformNumericAddress(address, text));
+    EXPECT_STREQ(text, "");
 }
 
 TEST(HostAddress, OfTheComputer)
@@ -132,11 +155,19 @@ TEST(HostName, IsCutByUnitsInUTF8ModeOnly)
     });
 }
 
-TEST(KernelRelease, FitsOrFails)
+TEST(System, KernelReleaseFitsOrFails)
 {
     char release[64];
     EXPECT_TRUE(PlatformKernelRelease(release));
     const size_t size = strlen(release) + 1;
     EXPECT_TRUE(PlatformKernelRelease({release, size}));
     EXPECT_FALSE(PlatformKernelRelease({release, size - 1}));
+}
+
+TEST(System, LeavesNoCoreFile)
+{
+    rlimit limit = {};
+    PlatformKeepMemoryPrivate();
+    getrlimit(RLIMIT_CORE, &limit);
+    EXPECT_TRUE(limit.rlim_cur == 0 && limit.rlim_max == 0);
 }
