@@ -141,6 +141,7 @@ TEST(HostAddress, CompactForm)
     CheckRows("compact-addresses", [](const Cells &given) -> Cells {
         auto compact = Buffer(kIPAddressSize);
         CompactAddress(given[0], compact.data());
+        EXPECT_EQ(compact.back(), '\0');
         return {TextOf(compact)};
     });
 }
@@ -151,6 +152,7 @@ TEST(HostName, IsCutByUnitsInUTF8ModeOnly)
         auto legacy = Buffer(kHostNameSize), utf8 = Buffer(kHostNameSize);
         CutHostName(given[0], false, legacy.data());
         CutHostName(given[0], true, utf8.data());
+        EXPECT_TRUE(legacy.back() == '\0' && utf8.back() == '\0'); // all of what is left is zero
         return {TextOf(legacy), TextOf(utf8)};
     });
 }
