@@ -9,6 +9,7 @@ import re
 import subprocess
 import sys
 import unittest
+from pathlib import Path
 
 FILTER, CUPSTESTPPD, DOCUMENT, *PPDS = sys.argv[1:]
 KEY = 40  # characters of option, dot and choice; with one more CUPS refuses the PPD
@@ -135,6 +136,14 @@ class Queues(unittest.TestCase):
                        ["", *queue.options[option]] and text.isascii() and not SAME.fullmatch(text.replace("<3A>", "."))]
             self.assertEqual(english, [])
 
+    def test_every_japanese_text_is_used(self):
+        """A choice that got lost leaves its translation."""
+        texts = "".join(Queue(path).text for path in PPDS).replace("<3A>", ":")
+        texts += "/Options installed\n"  # of a group for which ppdc has an English text of its own
+        with open(Path(__file__).parents[2] / "ppd/ja.po", encoding="utf-8") as file:
+            english = re.findall(r'^msgid "(.+)"$', file.read(), re.M)
+        self.assertEqual([text for text in english if not re.search(f"/{re.escape(text)}[:\n]", texts)], [])
+
     def test_watermarks(self):
         def job(ppd, options):
             done = subprocess.run([FILTER, "1", "taro", "Report", "1", options, DOCUMENT], capture_output=True, check=True,
@@ -151,6 +160,7 @@ class Queues(unittest.TestCase):
                     marked = job(ppd, chosen)
                     self.assertEqual(marked, job(ppd, f"{chosen} {tickets}"))
                     self.assertGreater(len(marked), len(plain) + 10)
+                    self.assertIn(b"1 dict dup/EndPage 4 -1 roll put setpagedevice", marked)
 
 
 if __name__ == "__main__":
