@@ -1,6 +1,6 @@
-"""The table of tickets, the manual page, the sample queues and the filter name the same options, attributes and choices.
+"""The table of tickets, the manual page, the sample queues and the filter name the same options, attributes, choices.
 
-usage: docs_test.py WHAT-IS-READ ORVANE-JOB SOURCES TICKETS MANUAL PPD...
+usage: docs_test.py WHAT-IS-READ ORVANE-JOB SOURCES MANUAL PPD...
 """
 
 import re
@@ -9,7 +9,8 @@ import sys
 import unittest
 from pathlib import Path
 
-READ, TOOL, SOURCES, TICKETS, MANUAL, *PPDS = sys.argv[1:]
+READ, TOOL, SOURCES, MANUAL, *PPDS = sys.argv[1:]
+TICKETS = SOURCES + "/docs/tickets.md"
 ATTRIBUTES = "PPD attributes"
 # What the sources have in quotes that has the form of an attribute's name and is none.
 VALUES = {"AUTO", "BLUE", "BUFF", "COIL", "FACE", "FOUR", "GRAY", "HMAC", "LEFT", "NONE", "PINK", "SRGB"}
@@ -35,7 +36,8 @@ def is_ours(option):
 class Docs(unittest.TestCase):
     def setUp(self):
         """The table's rows, by name: section, values, lines; what the filter reads; what the sample queues offer."""
-        self.table, self.read, self.choices, self.attributes, self.given, self.triggers = {}, {}, {}, set(), set(), set()
+        self.table, self.read, self.choices = {}, {}, {}
+        self.attributes, self.given, self.triggers = set(), set(), set()
         for section in re.split("^## ", contents(TICKETS), flags=re.M):
             for name, values, lines in re.findall(r"^\| `([^`]+)` \|([^|]*)\|([^|]*)\|$", section, re.M):
                 row = self.table.setdefault(full_name(name), ["", "", ""])
@@ -74,7 +76,8 @@ class Docs(unittest.TestCase):
         self.assertLessEqual(self.given, self.options)
         attributes = set(self.table) - self.options
         self.assertLessEqual(attributes, self.attributes)
-        self.assertLessEqual({name for name in self.attributes - set(self.choices) if re.match("OV|QBX", name)}, attributes)
+        others = self.attributes - set(self.choices)
+        self.assertLessEqual({name for name in others if re.match("OV|QBX", name)}, attributes)
 
     def test_table_has_the_choices(self):
         everywhere = quoted(contents(TICKETS))
@@ -90,7 +93,8 @@ class Docs(unittest.TestCase):
 
     def test_tool_explains_every_line_of_the_tables(self):
         features = [feature.split(" ", 2)[2] for feature in self.read["feature"]]
-        job = "\x1b%-12345X@PJL JOB MODE=PRINTER\r\n" + "\n".join(self.read["line"] + features) + "\n\x1b%-12345X@PJL EOJ\n"
+        uel = "\x1b%-12345X"
+        job = "\n".join([uel + "@PJL JOB MODE=PRINTER\r", *self.read["line"], *features, uel + "@PJL EOJ\n"])
         done = subprocess.run([TOOL, "show", "--check"], input=job, capture_output=True, text=True)
         self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
         self.assertGreater(len(self.read["line"]), 100)

@@ -67,7 +67,7 @@ class Jobs(CupsJobs):
                 self.assertCountEqual(header[len(expected):].splitlines(True), features)
 
     def test_cancelled_job_ends_and_has_the_pages_that_were_sent(self):
-        # Far more than what fits between the filter and the printer, so that the job is cancelled while it is being sent.
+        # Far more than what fits between filter and printer, so that the job is cancelled while it is being sent.
         document = self.cups.path("long.ps")
         pages = 160
         with open(document, "w") as file:

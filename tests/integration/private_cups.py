@@ -6,13 +6,14 @@ import re
 import shutil
 import socket
 import subprocess
-import tempfile
 import sys
+import tempfile
 import threading
 import time
 import unittest
+from pathlib import Path
 
-sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "jobs"))
+sys.path.insert(0, str(Path(__file__).parents[1] / "jobs"))
 
 BOUND = 120  # seconds that anything awaited may take
 
@@ -27,15 +28,13 @@ def wait_for(condition, what):
 
 def without_collate(ppd, path):
     """Writes a PPD without the option Collate, of a printer that can't; returns its path."""
-    with open(ppd, encoding="utf-8") as file:
-        text = re.sub(r"\*OpenUI \*Collate.*?\*CloseUI: \*Collate\n", "", file.read(), flags=re.S)
-    with open(path, "w", encoding="utf-8") as file:
-        file.write(text)
+    text = Path(ppd).read_text("utf-8")
+    Path(path).write_text(re.sub(r"\*OpenUI \*Collate.*?\*CloseUI: \*Collate\n", "", text, flags=re.S), "utf-8")
     return path
 
 
 class Printer:
-    """A socket on the loopback interface that takes one job after the other. Held, it stops reading in the middle of one."""
+    """A socket on the loopback interface that takes one job after the other. Held, it stops in the middle of one."""
 
     HEAD = 16 * 1024  # bytes of a job that it takes even when held: more than a header
 
@@ -110,36 +109,31 @@ class PrivateCups:
         else:
             print(f"cupsd's files are kept in {self.root}")
 
+    def _told(self, what):
+        return subprocess.run(["cups-config", what], check=True, capture_output=True, text=True).stdout.strip()
+
     def _make_server_bin(self):
         # Filters and backends of the system, and the filter under test: a copy, since cupsd run by root refuses a
         # filter that does not belong to root or is where others may write.
-        system = subprocess.run(["cups-config", "--serverbin"], check=True, capture_output=True, text=True).stdout.strip()
         for folder in ("filter", "backend", "daemon", "driver", "notifier", "cgi-bin", "monitor"):
             os.makedirs(self.path("bin", folder), 0o755)
-            if os.path.isdir(os.path.join(system, folder)):
-                for entry in os.scandir(os.path.join(system, folder)):
-                    os.symlink(entry.path, self.path("bin", folder, entry.name))
-        installed = self.path("bin", "filter", "pstoorvane")
-        if os.path.lexists(installed):
-            os.remove(installed)
-        shutil.copy(self.filter_path, installed)
-        os.chmod(installed, 0o755)
+            for entry in Path(self._told("--serverbin"), folder).glob("*"):
+                if entry.name != "pstoorvane":
+                    os.symlink(entry, self.path("bin", folder, entry.name))
+        os.chmod(shutil.copy(self.filter_path, self.path("bin", "filter", "pstoorvane")), 0o755)
 
     def _write_configuration(self):
-        data = subprocess.run(["cups-config", "--datadir"], check=True, capture_output=True, text=True).stdout.strip()
+        owner = pwd.getpwnam("lp") if os.geteuid() == 0 else None
         for folder in ("etc", "etc/ppd", "cache", "state", "spool", "spool/tmp"):
             os.makedirs(self.path(folder), 0o755)
-        if os.geteuid() == 0:
-            lp = pwd.getpwnam("lp")
-            for folder in ("cache", "state", "spool", "spool/tmp"):
-                os.chown(self.path(folder), lp.pw_uid, lp.pw_gid)
+            if owner and not folder.startswith("etc"):
+                os.chown(self.path(folder), owner.pw_uid, owner.pw_gid)
+        places = {"ServerRoot": "etc", "CacheDir": "cache", "StateDir": "state", "RequestRoot": "spool",
+                  "TempDir": "spool/tmp", "DocumentRoot": self._told("--datadir") + "/doc-root", "ServerBin": "bin",
+                  "ServerKeychain": "etc/ssl",
+                  "AccessLog": "access_log", "ErrorLog": "error_log", "PageLog": "page_log"}
         with open(self.path("cups-files.conf"), "w") as conf:
-            for name, value in (("ServerRoot", "etc"), ("CacheDir", "cache"), ("StateDir", "state"),
-                                ("RequestRoot", "spool"), ("TempDir", "spool/tmp"),
-                                ("DocumentRoot", os.path.join(data, "doc-root")), ("ServerBin", "bin"),
-                                ("AccessLog", "access_log"), ("ErrorLog", "error_log"), ("PageLog", "page_log"),
-                                ("ServerKeychain", "etc/ssl")):
-                conf.write(f"{name} {self.path(value)}\n")
+            conf.writelines(f"{name} {self.path(value)}\n" for name, value in places.items())
             conf.write("FatalErrors none\nPassEnv ASAN_OPTIONS UBSAN_OPTIONS LSAN_OPTIONS\n")
         with open(self.path("cupsd.conf"), "w") as conf:
             conf.write(f"Listen {self.address}\nWebInterface Yes\n" if self.address else "WebInterface No\n")
@@ -169,11 +163,8 @@ IdleExitTimeout 0
         return os.path.exists(self.path("cups.sock")) and "is running" in self.run("lpstat", "-r")
 
     def text(self, name):
-        try:
-            with open(self.path(name), encoding="utf-8", errors="replace") as file:
-                return file.read()
-        except FileNotFoundError:
-            return ""
+        path = Path(self.path(name))
+        return path.read_text("utf-8", errors="replace") if path.exists() else ""
 
     def run(self, *command):
         done = subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,

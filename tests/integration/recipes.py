@@ -1,8 +1,8 @@
 """Does what the documents say, command by command, and finds in the printer's jobs what they say comes out.
 
 usage: recipes.py FILTER PPD-FOLDER SAMPLE DOCUMENT...
-A block of commands is run, one that begins with *PPD-Adobe is the PPD of the commands after it, and every line of any other
-block after a job must be in it; "..." stands for anything.
+A block of commands is run, one that begins with *PPD-Adobe is the PPD of the commands after it, and every line of any
+other block after a job must be in it; "..." stands for anything.
 """
 
 import os

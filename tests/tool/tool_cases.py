@@ -4,6 +4,7 @@ A case has jobs as files by name, in lines of content as data/jobs has them; the
 usage: tool_cases.py ORVANE-JOB FILTER SAMPLE-PPDS TEST-DATA [unittest arguments, such as show]
 """
 
+import base64
 import json
 import os
 import pty
@@ -179,6 +180,14 @@ class calls(Tool):
             changed = blob[:place] + (b"A" if blob[place:place + 1] != b"A" else b"B") + blob[place + 1:]
             self.assertIn(b"encrypted for another key than this build's" if 22 <= place < 64 else b"damaged",
                           self.run_tool("show", data=held.replace(blob, changed)), place)
+        # What is encrypted are whole blocks, as many as the payload's length says, and the whole's.
+        raw = base64.b64decode(blob)
+        payload, total = (int.from_bytes(raw[at:at + 4], "little") for at in (2, 6))
+        for bytes_more, payload_more, total_more in ((16, 16, 16), (1, 1, 1), (16, 0, 16), (16, 16, 0)):
+            lengths = (payload + payload_more).to_bytes(4, "little") + (total + total_more).to_bytes(4, "little")
+            changed = base64.b64encode(raw[:2] + lengths + raw[10:] + bytes(bytes_more))
+            told = self.run_tool("show", data=held.replace(blob, changed))
+            self.assertEqual(b"damaged" in told, {bytes_more, payload_more, total_more} != {16}, lengths)
 
     def elliptic_key(self):
         subprocess.run(["openssl", "genpkey", "-algorithm", "ED25519", "-out", "other.pem"], cwd=self.folder,
@@ -296,6 +305,8 @@ class calls(Tool):
         for arguments in (["show", "none"], ["show", "."], ["diff", "none", "none"], ["options", "none", "a=b"]):
             told = self.run_tool(*arguments, status=2, CUPS_SERVER="/none")
             self.assertRegex(told, b"^orvane-job: [^\n]+: [^\n]+\n$")
+        self.assertIn(b": Is a directory\n", self.run_tool("show", ".", status=2))
+        self.run_tool("options", SAMPLES / "mono.ppd", "Duplex=DuplexNoTumbel", status=1)
         for folder in ("none", "/proc"):
             told = self.run_tool("options", SAMPLES / "mono.ppd", "a=b", status=2, TMPDIR=folder)
             self.assertEqual(told, b"orvane-job: no folder can be made in TMPDIR\n")
