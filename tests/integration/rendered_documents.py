@@ -144,10 +144,10 @@ class RenderedDocuments(unittest.TestCase):
                    "ps2write": run("gs", "-q", "-dBATCH", "-dNOPAUSE", "-sDEVICE=ps2write", "-o", "-", path)}
         return ([(name, "postscript", "pdftops-renderer=gs", document) for name, document in own.items()] +
                 [(f"PDF by {renderer}", "pdf", f"pdftops-renderer={renderer}", pdf)
-                 for renderer in ("gs", "pdftops", "pdftocairo", "hybrid")])
+                 for renderer in ("gs", "pdftops", "pdftocairo")])
 
     def test_every_producer(self):
-        up = {"groff": (1, 2, 4), "PDF by gs": (1, 2, 4)}  # pages of a sheet; pstops puts them there, and pdftopdf
+        up = {"groff": (1, 2, 4), "PDF by gs": (1, 4)}  # pages of a sheet; pstops puts them there, and pdftopdf
         self.check(*((f"{name}, {n} on a sheet", self.laid_out(document, kind, renderer, f"number-up={n}"),
                       [A4] * -(-3 // n)) for name, kind, renderer, document in self.producers
                      for n in up.get(name, (1,))))
