@@ -175,10 +175,10 @@ class RenderedDocuments(unittest.TestCase):
         rows = []
         for label, setup, pages, expected in (
                 ("sizes", paper, [page, wide, letter, page], [A4, WIDE, LETTER, LETTER]),
-                ("matrix", paper + "90 90 translate .5 .5 scale 30 rotate 9 setlinewidth[30 20]0 setdash\n",
-                 ["0 0 moveto 300 300 lineto stroke showpage\n", page], [A4] * 2),
+                ("matrix", paper + ".5 .5 scale 30 rotate 40 setlinewidth[30 20]0 setdash 1 setmiterlimit\n",
+                 ["0 0 moveto 300 300 lineto 600 0 lineto stroke showpage\n", page], [A4] * 2),
                 ("colour", paper + "/DeviceCMYK setcolorspace 1 0 0 0 setcolor 2 setlinejoin 1 setlinecap\n",
-                 ["40 setlinewidth 90 90 moveto 300 300 lineto 150 100 lineto stroke showpage\n"], [A4]),
+                 ["40 setlinewidth 90 90 moveto 300 300 lineto 500 100 lineto stroke showpage\n"], [A4]),
                 ("own EndPage", paper + every_other, [page] * 5, [A4] * 2),
                 ("deactivation", paper + "/out false def<</EndPage{exch pop 2 eq{out}{true}ifelse}>>setpagedevice\n",
                  ["l/out true def<</PageSize[612 792]>>setpagedevice/out false def\n", page], [None, LETTER]),
