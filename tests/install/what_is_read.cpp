@@ -1,10 +1,9 @@
 // Prints what the filter asks CUPS for in a job with an item of each kind of special page, under each of the PPDs that
-// the arguments name, which lines its tables have, and which lines stand for which choices. On standard error: standard
-// output has the jobs.
+// the arguments name, and which lines and sizes stand for which choices. On standard error: the jobs are on standard
+// output.
 #include "FeatureCommands.h"
 #include "FilterFrame.h"
 #include "PBind.h"
-#include "SampleLines.h"
 
 #include <cstdlib>
 #include <cups/cups.h>
@@ -38,11 +37,6 @@ int main(int argc, char **argv)
     }
     for (const std::string &name : asked)
         fprintf(stderr, "option %s\n", name.c_str());
-    for (const CommandTable &table : tables)
-        for (const FmtTableRow &row : table.rows) {
-            const std::string line = SampleLine(row);
-            fprintf(stderr, "line %s\n", line.substr(0, line.find_last_not_of("\r\n") + 1).c_str());
-        }
     for (const FeatureCommand &row : FeaturePPDKeyNameandMarkedValuetoPJLCommand)
         fprintf(stderr, "feature %s %s %s", row.keyword, row.value, row.command);
     for (const PBindParam *row = PerfectBindParam; *row->ppdValue; row++)
