@@ -207,6 +207,9 @@ class calls(Tool):
                                         (["one", "longer"], 1, secret + b"have different lengths\n")):
             told = self.run_tool("diff", *arguments, status=status)
             self.assertEqual(told.split(b"\n", 2)[2], said)
+        for name, end in (("whole", b"\x04"), ("cancelled", b"")):
+            (self.folder / name).write_bytes(HEAD + ENTER + b"%!PS\n" + end + TRAILER)
+        self.assertNotIn(same, self.run_tool("diff", "whole", "cancelled", status=1))
 
     def test_documents_come_out_as_they_went_in(self):
         def extracted(job=b"", *path):
