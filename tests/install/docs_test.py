@@ -1,6 +1,6 @@
 """The table of tickets, the manual, the sample queues and the filter name the same options, attributes and choices.
 
-usage: docs_test.py WHAT-IS-READ SOURCES MANUAL PPD...
+usage: docs_test.py WHAT-IS-READ TICKETS MANUAL PPD...
 """
 
 import re
@@ -9,11 +9,8 @@ import sys
 import unittest
 from pathlib import Path
 
-READ, SOURCES, MANUAL, *PPDS = sys.argv[1:]
-TICKETS = SOURCES + "/docs/tickets.md"
+READ, TICKETS, MANUAL, *PPDS = sys.argv[1:]
 ATTRIBUTES = "PPD attributes"
-# What the sources have in quotes that has the form of an attribute's name and is none.
-VALUES = {"AUTO", "BLUE", "BUFF", "COIL", "FACE", "FOUR", "GRAY", "HMAC", "LEFT", "NONE", "PINK", "SRGB"}
 
 
 def contents(path):
@@ -88,19 +85,6 @@ class Docs(unittest.TestCase):
             self.assertIn(value, quoted(self.table[keyword][1]), keyword)
             self.assertIn(re.search("[^ @]*=(?=[^=]*$)", command)[0], self.table[keyword][2], keyword)
         self.assertLessEqual(set(self.read["binding"]), everywhere)
-
-    def test_lines_have_the_names_that_the_sources_have(self):
-        """Also those of the writers that build their lines directly."""
-        lines = contents(SOURCES + "/docs/lines.md")
-        names = set(re.findall(r"^\| `(@?[A-Z ]+)", lines, re.M))
-        sources = "".join(contents(path) for folder in ("modules", "CommonSource") for path in
-                          sorted(Path(SOURCES, folder).rglob("*.cpp")))
-        written = {"@" + name for name in re.findall(r"@([A-Z]{4})=", sources)}
-        written |= {"@" + name for name in re.findall('"([A-Z]{4})"', sources) if name not in VALUES}
-        written |= set(re.findall("@PJL SET ([A-Z]+)=", sources)) - {"JOBATTR"}
-        written |= set(re.findall("PRINTJOBINFO ([A-Z]+)", sources))
-        written |= {name for name in ("JOB MODE", "ENTER LANGUAGE", "EOJ") if "@PJL " + name in sources}
-        self.assertEqual(names, written)
 
 
 if __name__ == "__main__":
