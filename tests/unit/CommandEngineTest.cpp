@@ -1,6 +1,5 @@
-// The line builder and the conditions where no table of ours takes them; whole
-// jobs show them with the tables.
-#include "CommandTable.h"
+// The line builder where no table of ours takes it; whole jobs show it with the tables.
+#include "CommandBuilder.h"
 
 #include "Rows.h"
 
@@ -17,28 +16,8 @@ TEST(CommandBuilder, BuildsLines)
                                                 : text);
         }
         const CmdParaTable table = {static_cast<int32_t>(values.size()), values.data()};
-        auto line = Buffer(kCommandLineSize), cut = Buffer(4);
+        auto line = Buffer(kCommandLineSize);
         BuildPrintComand(given[0].c_str(), &table, line.data(), line.size());
-        BuildPrintComand(given[0].c_str(), &table, cut.data(), cut.size());
-        EXPECT_EQ(TextOf(cut), TextOf(line).substr(0, 3));
         return {TextOf(line)};
     });
-}
-
-TEST(CommandTable, Conditions)
-{
-    CheckRows("conditions", [](const Cells &given) -> Cells {
-        static const char *const word = "bc";
-        static const int32_t three = 3;
-        const char *text = given[0].c_str();
-        const auto length = static_cast<int32_t>(given[0].size());
-        Cells answers;
-        for (const ComparationItem &item :
-             {Is(text, word), Contains(text, word), Lacks(text, word), NotEmpty(text), Empty(text),
-              ShorterThan(text, three), Equal(length, three), NotEqual(length, three)})
-            answers.push_back(std::to_string(item.func(item.arg1, item.arg2)));
-        return answers;
-    });
-    EXPECT_EQ(StrNoNULLCampareFunc(nullptr, OptionNULLStr), 0U);
-    EXPECT_EQ(StrIsNULLCampareFunc(nullptr, OptionNULLStr), 1U);
 }
