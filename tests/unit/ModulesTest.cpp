@@ -6,7 +6,6 @@
 #include "SpecialPage.h"
 #include "Watermark.h"
 
-#include <regex>
 #include <sstream>
 
 // The options with each of a and b in place of "[a/b]".
@@ -57,9 +56,10 @@ TEST(Comment, LinesOfTheHighVersion)
 TEST(Watermark, PageOfTheFiltersOwn)
 {
     CheckLines("watermark-lines", [](const std::string &options) {
-        const std::string tickets =
-            std::regex_replace("Name=a Type=0 PaperWidth=595 PaperHeight=842 " + options, std::regex("(\\w+)="),
-                               "com.orvane.dlg.printsettings.WMARK$1Ticket=");
+        std::istringstream words("Name=a Type=0 PaperWidth=595 PaperHeight=842 " + options);
+        std::string tickets;
+        for (std::string word; words >> word;)
+            tickets += " com.orvane.dlg.printsettings.WMARK" + word.insert(word.find('='), "Ticket");
         const char *const argv[] = {"filter", "1", "taro", "Report", "1", tickets.c_str(), nullptr};
         WatermarkGetTicketFromPDE(argv);
         for (const int32_t page : {1, 2})
