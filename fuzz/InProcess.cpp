@@ -1,6 +1,7 @@
 #include "InProcess.h"
 
 #include "FilterFrame.h"
+#include "ModuleDispatch.h"
 #include "PPDLookup.h"
 #include "PSSpool.h"
 #include "PSStream.h"
@@ -161,6 +162,9 @@ std::string RunDocument(std::string_view document, const std::string &ppd, bool 
     setenv("PPD", PathOf(file->second).c_str(), 1);
     const std::string path = PathOf(DocumentFile(document, fromFile));
     const char *const argv[] = {"pstoorvane", "1", "taro", "Report", "1", "", path.c_str(), nullptr};
+    // Without tickets nothing is injected; what is absent has to be read once, too.
+    static const bool read = (GetTicketFromPDE(argv), true);
+    Require(read);
     (spooled ? OutputPSStreamtoFileandInsertPJLforFeaturePDE : OutputPSStream)(fromFile ? 7 : 6, argv);
     fflush(stdout);
     std::string output = ReadOutput();
