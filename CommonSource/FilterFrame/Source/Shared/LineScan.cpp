@@ -56,19 +56,17 @@ template <auto Scan, typename... Arguments> [[gnu::target("avx2")]] static const
 {
     return Scan(arguments...);
 }
-#else
-static constexpr bool wideVectors = false;
-
-template <auto Scan, typename... Arguments> static const char *ScanWide(Arguments... arguments)
-{
-    return Scan(arguments...);
-}
-#endif
 
 template <auto Scan, typename... Arguments> static const char *ScanBest(Arguments... arguments)
 {
     return wideVectors ? ScanWide<Scan>(arguments...) : Scan(arguments...);
 }
+#else
+template <auto Scan, typename... Arguments> static const char *ScanBest(Arguments... arguments)
+{
+    return Scan(arguments...);
+}
+#endif
 
 const char *FindLineEnd(const char *from, const char *end)
 {
