@@ -12,12 +12,10 @@ import unittest
 
 from private_cups import CupsJobs, wait_for
 
-from content import line_of
+from content import ENTER, TICKET, TRAILER, UEL, line_of
 
 PPDS, DOCUMENT, OUTPUT = sys.argv[2:5]
-ENTER = b"@PJL ENTER LANGUAGE=POSTSCRIPT\n"
-TRAILER = b"\x1b%-12345X@PJL EOJ\n"
-START = b"\x1b%-12345X@PJL SET STRINGCODESET=UTF8\n@PJL JOB MODE=PRINTER\r\n"
+START = UEL + b"@PJL SET STRINGCODESET=UTF8\n@PJL JOB MODE=PRINTER\r\n"
 SENDER = rb"@CNAM=%s @LUNA=taro @NLPP=N1 @JOAU=taro\r @ACNA=Monthly\x20report\r" % socket.gethostname().encode()
 
 
@@ -26,7 +24,7 @@ def case(queue):
     path = os.path.join(os.path.dirname(__file__), "..", "data", "cups", queue + ".job")
     with open(path, "rb") as file:
         options, header, *features = file.read().replace(b"{sender}", SENDER).split(b"\n\n")
-    options = [re.sub(r"^\.", "com.orvane.dlg.printsettings.", option) for option in options.decode().split()]
+    options = [re.sub(r"^\.", TICKET, option) for option in options.decode().split()]
     lines, features = ([line_of(token) for token in text.split()] for text in (header, b"".join(features)))
     return options, START + b"".join(lines), features
 
